@@ -1,0 +1,140 @@
+#include "values/builtins.h"
+
+#include <chrono>
+#include <cmath>
+#include <random>
+
+#include "values/fault.h"
+
+namespace lapdesk {
+
+namespace {
+
+std::mt19937_64& Generator() {
+    static std::mt19937_64 generator{std::random_device{}()};
+    return generator;
+}
+
+const Complex& Arg(std::span<const Complex> args, std::size_t i) {
+    if (i >= args.size()) RaiseFault(FaultCode::SubscriptOutOfRange);
+    return args[i];
+}
+
+Complex ToRadians(const Complex& a) { return CplScale(AngleUnit, a); }
+
+Complex ComplexSin(const Complex& z) {
+    return {Checked(std::sin(z.Re) * std::cosh(z.Im)), Checked(std::cos(z.Re) * std::sinh(z.Im))};
+}
+
+Complex ComplexCos(const Complex& z) {
+    return {Checked(std::cos(z.Re) * std::cosh(z.Im)), Checked(-std::sin(z.Re) * std::sinh(z.Im))};
+}
+
+Complex ComplexSinh(const Complex& z) {
+    return {Checked(std::sinh(z.Re) * std::cos(z.Im)), Checked(std::cosh(z.Re) * std::sin(z.Im))};
+}
+
+Complex ComplexCosh(const Complex& z) {
+    return {Checked(std::cosh(z.Re) * std::cos(z.Im)), Checked(std::sinh(z.Re) * std::sin(z.Im))};
+}
+
+Complex Sin(const Complex& a) {
+    if (a.Im == 0.0) return {Checked(std::sin(Checked(AngleUnit * a.Re))), 0.0};
+    return ComplexSin(ToRadians(a));
+}
+
+Complex Tan(const Complex& a) {
+    if (a.Im == 0.0) return {Checked(std::tan(Checked(AngleUnit * a.Re))), 0.0};
+    const Complex z = ToRadians(a);
+    return CplDiv(ComplexSin(z), ComplexCos(z));
+}
+
+// atan z = (j/2) (ln(1 - jz) - ln(1 + jz)), in the user's angle unit.
+Complex Atan(const Complex& a) {
+    if (a.Im == 0.0) return {Checked(std::atan(a.Re) / AngleUnit), 0.0};
+    const Complex one{1.0, 0.0};
+    const Complex jz{-a.Im, a.Re};
+    const Complex difference = CplSub(CplLog(CplSub(one, jz)), CplLog(CplAdd(one, jz)));
+    const Complex radians = CplMul({0.0, 0.5}, difference);
+    return CplScale(1.0 / AngleUnit, radians);
+}
+
+Complex Tanh(const Complex& a) {
+    if (a.Im == 0.0) {
+        const double e = Checked(std::exp(Checked(-2.0 * a.Re)));
+        return {Checked((1.0 - e) / (1.0 + e)), 0.0};
+    }
+    return CplDiv(ComplexSinh(a), ComplexCosh(a));
+}
+
+Complex Sqrt(const Complex& a) {
+    if (a.Im == 0.0) {
+        return a.Re >= 0.0 ? Complex{std::sqrt(a.Re), 0.0} : Complex{0.0, std::sqrt(-a.Re)};
+    }
+    return CplPow(a, {0.5, 0.0});
+}
+
+// The cube root whose argument is the principal argument divided by three.
+Complex Qbic(const Complex& a) {
+    if (a.Im == 0.0 && a.Re >= 0.0) return {std::cbrt(a.Re), 0.0};
+    const double m = std::cbrt(CplAbs(a));
+    const double phi = CplArgRadians(a) / 3.0;
+    return {Checked(m * std::cos(phi)), Checked(m * std::sin(phi))};
+}
+
+// Rounds to the nearest 32-bit integer, ties to even.
+Complex Integer(const Complex& a) {
+    const double r = std::nearbyint(a.Re);
+    if (!(r >= -2147483648.0 && r <= 2147483647.0)) RaiseFault(FaultCode::Overflow);
+    return {r, 0.0};
+}
+
+Complex LogScaled(double base, const Complex& a) {
+    return CplScale(1.0 / std::log(base), CplLog(a));
+}
+
+}  // namespace
+
+double NextRandom() { return std::generate_canonical<double, 53>(Generator()); }
+
+void ReseedRandom() {
+    Generator().seed(static_cast<std::uint64_t>(
+        std::chrono::system_clock::now().time_since_epoch().count()));
+}
+
+bool CallScalarFunction(std::int16_t code, std::span<const Complex> args, Complex& result) {
+    switch (code) {
+        case 0: result = Sin(Arg(args, 0)); break;
+        case 1: result = ComplexCos(ToRadians(Arg(args, 0))); break;
+        case 2: result = Tan(Arg(args, 0)); break;
+        case 3:
+        case 4: result = Atan(Arg(args, 0)); break;
+        case 5: result = CplExp(Arg(args, 0)); break;
+        case 6: result = CplLog(Arg(args, 0)); break;
+        case 7: result = LogScaled(10.0, Arg(args, 0)); break;
+        case 8: result = LogScaled(2.0, Arg(args, 0)); break;
+        case 9:
+        case 10: result = Sqrt(Arg(args, 0)); break;
+        case 11: result = Qbic(Arg(args, 0)); break;
+        case 12: result = ComplexSinh(Arg(args, 0)); break;
+        case 13: result = ComplexCosh(Arg(args, 0)); break;
+        case 14: result = Tanh(Arg(args, 0)); break;
+        case 15: result = {Arg(args, 0).Re, Arg(args, 1).Re}; break;
+        case 16: result = {Arg(args, 0).Re, -Arg(args, 0).Im}; break;
+        case 17: result = {Arg(args, 0).Re, 0.0}; break;
+        case 18: result = {Arg(args, 0).Im, 0.0}; break;
+        case 19: result = {CplAbs(Arg(args, 0)), 0.0}; break;
+        case 20: result = {CplArg(Arg(args, 0)), 0.0}; break;
+        case 21: result = Integer(Arg(args, 0)); break;
+        case 22: result = CplPow(Arg(args, 0), Arg(args, 1)); break;
+        case 23: result = {NextRandom(), 0.0}; break;
+        case 24:
+            ReseedRandom();
+            result = {NextRandom(), 0.0};
+            break;
+        default: return false;
+    }
+    return true;
+}
+
+}  // namespace lapdesk

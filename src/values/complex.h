@@ -1,0 +1,43 @@
+// The one value type of the calculator language and its arithmetic.
+#pragma once
+
+namespace lapdesk {
+
+// A complex number; a real number is one whose Im is exactly 0.
+struct Complex {
+    double Re = 0.0;
+    double Im = 0.0;
+
+    friend bool operator==(const Complex&, const Complex&) = default;
+};
+
+// Radians in one unit of angle as the user sees angles (1.0: radians).
+// Read by CplArg, CplPow and the trigonometric built-ins.
+inline double AngleUnit = 1.0;
+
+// The constant the argument of a negative real takes: the double
+// 0x400921FB54442D11, one unit above the nearest double to pi.
+inline constexpr double kArgOfNegativeReal = 3.14159265358979;
+
+// Every operation checks each floating-point step and raises a RuntimeFault
+// (fault.h) on overflow or an invalid result, so no infinity or NaN is ever
+// stored in a Complex.
+Complex CplAdd(const Complex& a, const Complex& b);
+Complex CplSub(const Complex& a, const Complex& b);
+Complex CplMul(const Complex& a, const Complex& b);
+Complex CplDiv(const Complex& a, const Complex& b);  // zero divisor: fault 11
+Complex CplPow(const Complex& a, const Complex& b);
+Complex CplNeg(const Complex& a);
+Complex CplScale(double x, const Complex& a);
+double CplAbs(const Complex& a);
+double CplArg(const Complex& a);  // principal argument in angle units
+double CplArgRadians(const Complex& a);
+double CplAbsArg(const Complex& a, double& theta);
+Complex CplExp(const Complex& a);
+Complex CplLog(const Complex& a);  // argument in radians
+
+// Applies one of the language's binary operators "+-*/^": acc = acc op right.
+// Returns false, leaving acc unchanged, for any other character.
+bool ApplyOperator(char op, Complex& acc, const Complex& right);
+
+}  // namespace lapdesk

@@ -1,0 +1,32 @@
+#include "values/fault.h"
+
+namespace lapdesk {
+
+namespace {
+
+const char* DescriptionOf(FaultCode code) {
+    switch (code) {
+        case FaultCode::Overflow:
+            return "オーバーフローしました。";
+        case FaultCode::SubscriptOutOfRange:
+            return "インデックスが有効範囲にありません。";
+        case FaultCode::DivisionByZero:
+            return "0 で除算しました。";
+        case FaultCode::StackSpace:
+            return "スタック領域が不足しています。";
+    }
+    return "実行時エラーです。";
+}
+
+}  // namespace
+
+RuntimeFault::RuntimeFault(FaultCode code) : std::runtime_error(DescriptionOf(code)), code_(code) {}
+
+void RaiseFault(FaultCode code) { throw RuntimeFault(code); }
+
+std::int16_t ToInt16(long long x) {
+    if (x < -32768 || x > 32767) RaiseFault(FaultCode::Overflow);
+    return static_cast<std::int16_t>(x);
+}
+
+}  // namespace lapdesk

@@ -1,0 +1,46 @@
+// Run-time faults of the calculator language (overflow, division by zero,
+// subscript out of range). Arithmetic raises them; the evaluator's entry point
+// and the interpreter's page run are the places that trap them and turn them
+// into the user's message.
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+
+namespace lapdesk {
+
+enum class FaultCode : int {
+    Overflow = 6,
+    SubscriptOutOfRange = 9,
+    DivisionByZero = 11,
+    StackSpace = 28,
+};
+
+class RuntimeFault : public std::runtime_error {
+public:
+    explicit RuntimeFault(FaultCode code);
+    FaultCode code() const { return code_; }
+    // Short Japanese description shown after "実行時異常終了".
+    const char* description() const { return what(); }
+
+private:
+    FaultCode code_;
+};
+
+[[noreturn]] void RaiseFault(FaultCode code);
+
+// Raises the overflow fault unless x is a finite double.
+inline double Checked(double x) {
+    if (x - x != 0.0) RaiseFault(FaultCode::Overflow);  // inf or NaN
+    return x;
+}
+
+// 16-bit signed arithmetic for the interpreter's counts, indices and bounds:
+// a result outside -32768..32767 is the overflow fault, never a wrap.
+std::int16_t ToInt16(long long x);
+inline std::int16_t Add16(std::int16_t a, std::int16_t b) { return ToInt16(static_cast<long long>(a) + b); }
+inline std::int16_t Sub16(std::int16_t a, std::int16_t b) { return ToInt16(static_cast<long long>(a) - b); }
+inline std::int16_t Mul16(std::int16_t a, std::int16_t b) { return ToInt16(static_cast<long long>(a) * b); }
+
+}  // namespace lapdesk

@@ -1,0 +1,9 @@
+#!/usr/bin/env bash
+# Sets everything up, builds the Debug build with AddressSanitizer and
+# UndefinedBehaviorSanitizer, and runs every test through CTest.
+set -euo pipefail
+cd "$(dirname "$0")"
+./scripts/install-deps
+cmake --preset asan >/dev/null
+cmake --build --preset asan
+ctest --preset asan -j2
