@@ -1,0 +1,60 @@
+// Evaluates the calculator language's expressions and conditions directly on
+// their text by recursive descent: sums, terms, powers (left-associative),
+// primaries. Names resolve through a NameScope.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "expr/name_scope.h"
+#include "values/complex.h"
+#include "values/fault.h"
+
+namespace lapdesk {
+
+class Evaluator {
+public:
+    explicit Evaluator(NameScope& scope) : scope_(scope) {}
+
+    // Each level consumes the text from the left and leaves it empty on
+    // success. Syntax faults return false (see failure()); arithmetic faults
+    // raise RuntimeFault, which the caller's boundary traps.
+    bool EvalSum(std::string_view& text, Complex& value);
+    bool EvalTerm(std::string_view& text, Complex& value);
+    bool EvalFactor(std::string_view& text, Complex& value);
+    bool EvalPrimary(std::string_view& text, Complex& value);
+
+    // A condition of dotted operators and their synonyms; truth in `truth`.
+    bool EvalCondition(std::string_view text, bool& truth);
+
+    NameScope& scope() { return scope_; }
+
+    // Why the last evaluation failed, for the user's message; empty when the
+    // reason is only "not a valid expression".
+    const std::string& failure() const { return failure_; }
+    void ClearFailure() { failure_.clear(); }
+
+private:
+    bool Fail(std::string reason);
+    bool EvalChain(std::string_view& text, std::string_view ops, bool factors, Complex& value);
+    bool EvalOperand(std::string_view operand, bool factors, Complex& value);
+    bool EvalScalarFunction(std::size_t row, std::string_view text, Complex& value);
+    bool EvalMatrixFunction(std::size_t row, std::string_view text, Complex& value);
+    bool EvalNamed(std::string_view text, Complex& value);
+
+    NameScope& scope_;
+    std::string failure_;
+};
+
+// The outcome of evaluating one whole expression with faults trapped.
+struct Evaluation {
+    bool ok = false;
+    Complex value;
+    std::optional<FaultCode> fault;  // set when an arithmetic fault ended it
+    std::string message;             // why it failed, for the user
+};
+
+Evaluation Evaluate(std::string_view text, NameScope& scope);
+
+}  // namespace lapdesk

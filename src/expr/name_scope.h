@@ -1,0 +1,36 @@
+// What the evaluator asks of the program around it: the values of names,
+// calls of user functions and matrix functions on named arrays.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "values/complex.h"
+
+namespace lapdesk {
+
+class Evaluator;
+
+class NameScope {
+public:
+    virtual ~NameScope() = default;
+
+    // The value of a variable (no subscripts) or an array element (one or
+    // two subscript texts, which the scope evaluates with `evaluator`; an
+    // empty subscript text counts as "0"). False when the name is unknown or
+    // a subscript fails.
+    virtual bool ReadVariable(Evaluator& evaluator, std::string_view name,
+                              std::span<const std::string_view> subscripts, Complex& value) = 0;
+
+    // Runs the user function called by `call` (Name(arguments)) and gives its
+    // value. False when no function of that name exists or the call failed.
+    virtual bool CallUserFunction(Evaluator& evaluator, std::string_view call, Complex& value) = 0;
+
+    // Applies matrix function `index` (its row in the matrix function table)
+    // to the arrays named by `arguments`. A scalar result goes into `value`;
+    // an array result is kept by the scope for the assignment that called it.
+    virtual bool CallMatrixFunction(std::size_t index, std::span<const std::string_view> arguments,
+                                    Complex& value) = 0;
+};
+
+}  // namespace lapdesk

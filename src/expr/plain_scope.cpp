@@ -1,0 +1,55 @@
+#include "expr/plain_scope.h"
+
+#include <vector>
+
+#include "expr/evaluator.h"
+#include "expr/matrix_call.h"
+#include "expr/text_scan.h"
+
+namespace lapdesk {
+
+void PlainScope::SetScalar(const std::string& name, Complex value) {
+    ComplexArray scalar = ComplexArray::Vector(1);
+    scalar.At(0) = value;
+    arrays_[name] = std::move(scalar);
+}
+
+void PlainScope::SetArray(const std::string& name, ComplexArray array) {
+    arrays_[name] = std::move(array);
+}
+
+bool PlainScope::ReadVariable(Evaluator& evaluator, std::string_view name,
+                              std::span<const std::string_view> subscripts, Complex& value) {
+    const auto found = arrays_.find(name);
+    if (found == arrays_.end()) return false;
+    const ComplexArray& array = found->second;
+    int index[2] = {0, 0};
+    for (std::size_t k = 0; k < subscripts.size(); ++k) {
+        std::string_view text = Trim(subscripts[k]).empty() ? "0" : subscripts[k];
+        Complex subscript;
+        if (!evaluator.EvalSum(text, subscript)) return false;
+        index[k] = static_cast<int>(subscript.Re);
+    }
+    const long long flat = static_cast<long long>(array.NI + 1) * index[1] + index[0];
+    if (flat < 0 || flat >= static_cast<long long>(array.Values.size())) return false;
+    value = array.Values[static_cast<std::size_t>(flat)];
+    return true;
+}
+
+bool PlainScope::CallUserFunction(Evaluator&, std::string_view, Complex&) { return false; }
+
+bool PlainScope::CallMatrixFunction(std::size_t index, std::span<const std::string_view> arguments,
+                                    Complex& value) {
+    std::vector<const ComplexArray*> args;
+    for (std::string_view name : arguments) {
+        const auto found = arrays_.find(name);
+        if (found == arrays_.end()) return false;
+        args.push_back(&found->second);
+    }
+    std::optional<ComplexArray> array;
+    if (!ApplyMatrixFunction(index, args, value, array)) return false;
+    if (array) lastArray_ = std::move(array);
+    return true;
+}
+
+}  // namespace lapdesk

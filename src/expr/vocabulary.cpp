@@ -1,0 +1,225 @@
+#include "expr/vocabulary.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "values/builtins.h"
+#include "values/complex.h"
+
+namespace lapdesk {
+
+namespace {
+
+char Lower(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
+
+std::vector<OperatorSynonym> OperatorSynonyms() {
+    // Two-character operators come before their one-character prefixes, so
+    // replacing in this order never splits "<=", ">=", "=<", "=>", "<>", "><".
+    return {{" And ", ".And."}, {" & ", ".And."}, {" Or ", ".Or."},  {" ~ ", ".Or."},
+            {"Not ", ".Not."},  {"! ", ".Not."},  {"!=", ".NE."},    {"<>", ".NE."},
+            {"><", ".NE."},     {"<=", ".LE."},   {"=<", ".LE."},    {">=", ".GE."},
+            {"=>", ".GE."},     {">", ".GT."},    {"<", ".LT."},     {"=", ".EQ."}};
+}
+
+std::vector<CanonicalOperator> CanonicalOperators() {
+    return {{".And.", ".And.,\" ＆ \""}, {".Or.", ".Or.,\" ~ \""}, {".Not.", ".Not.,\"! \""},
+            {".NE.", ".NE.,\"!=\",\"><\""}, {".LE.", ".LE.,\"=<\""}, {".GE.", ".GE.,\"=>\""},
+            {".GT.", ".GT."}, {".LT.", ".LT."}, {".EQ.", ".EQ."}};
+}
+
+std::vector<StatementKeyword> Keywords() {
+    return {{"Global", 3},        {"Dim", 2},
+            {"Call", 4},          {"For", 5},
+            {"Exit For", 7},      {"ExitFor", 7},
+            {"Next", 6},          {"Do", 8},
+            {"ExitDo", 10},       {"Exit Do", 10},
+            {"Loop", 9},          {"While", 24},
+            {"Until", 23},        {"If", 11},
+            {"ElseIf", 13},       {"Else If", 13},
+            {"Else", 12},         {"EndIf", 14},
+            {"End If", 14},       {"Select", 18},
+            {"CaseElse", 20},     {"Case Else", 20},
+            {"Case", 19},         {"EndSelect", 21},
+            {"End Select", 21},   {"Function", 16},
+            {"ExitFunction", 17}, {"Exit Function", 17},
+            {"EndFunction", 1},   {"End Function", 1},
+            {"Return", 15},       {"End", 1}};
+}
+
+std::vector<std::string> KeywordMenu() {
+    return {"Global ",
+            "Dim ",
+            "Call ",
+            "For ",
+            "ExitFor , Exit For",
+            "Next",
+            "Do",
+            "ExitDo , Exit Do",
+            "Loop ",
+            "While ",
+            "Until ",
+            "If  Then",
+            "ElseIf  Then , Else If   Then",
+            "Else",
+            "EndIf , End If",
+            "Select Case",
+            "Case ",
+            "CaseElse , Case Else",
+            "EndSelect , End Select",
+            "Function ",
+            "ExitFunction , Exit Function",
+            "EndFunction , End Function",
+            "Return ",
+            "End"};
+}
+
+enum ConstantGroup : std::int16_t { kPi, kTwoPi, kHalfPi, kE, kImaginaryUnit, kRandom, kRandomize };
+
+std::vector<NamedConstant> Constants() {
+    return {{"π", kPi},         {"PAI", kPi},          {"2π", kTwoPi},     {"DPI", kTwoPi},
+            {"DPaI", kTwoPi},   {"2Pai", kTwoPi},      {"0.5π", kHalfPi},  {"HPI", kHalfPi},
+            {"HPaI", kHalfPi},  {"0.5PaI", kHalfPi},   {"Exp1", kE},       {"1i", kImaginaryUnit},
+            {"1j", kImaginaryUnit}, {"Random", kRandom}, {"Randomize", kRandomize}};
+}
+
+std::vector<std::string> ConstantHelp() {
+    // The third line begins with "2π," although it describes π/2; it is kept so.
+    return {"π,Pai：3.1415...",        "2π,DPai,DPi：6.2831...", "2π,0.5π,0.5Pai,HPai,HPi：1.570...",
+            "Exp1：ｅ=2.718....",      "1i,1j：Sqrt(-1)",        "Random：乱数",
+            "Randomize：乱数初期化"};
+}
+
+std::vector<ScalarFunction> ScalarFunctions() {
+    return {{"Sin(", 0, 1, 1, "Sin()"},
+            {"Cos(", 1, 1, 1, "Cos()"},
+            {"Tan(", 2, 1, 1, "Tan()"},
+            {"Atan(", 3, 1, 1, "Atan() , Atn()"},
+            {"Atn(", 4, 1, 1, ""},
+            {"Exp(", 5, 1, 1, "Exp()"},
+            {"Log(", 6, 1, 1, "Log()"},
+            {"Log10(", 7, 1, 1, "Log10()"},
+            {"Log2(", 8, 1, 1, "Log2()"},
+            {"Sqrt(", 9, 1, 1, "Sqrt() , Sqr()"},
+            {"Sqr(", 10, 1, 1, ""},
+            {"Qbic(", 11, 1, 1, "Qbic()"},
+            {"Sinh(", 12, 1, 1, "Sinh()"},
+            {"Cosh(", 13, 1, 1, "Cosh()"},
+            {"Tanh(", 14, 1, 1, "Tanh()"},
+            {"Cpx(", 15, 2, 2, "Cpx(,)：Cpx(a,b)=a+bj"},
+            {"Conj(", 16, 1, 1, "Conj()：共役"},
+            {"Real(", 17, 1, 1, "Real()：実部"},
+            {"Image(", 18, 1, 1, "Image()：虚部"},
+            {"Abs(", 19, 1, 1, "Abs()：絶対値"},
+            {"Arg(", 20, 1, 1, "Arg()：偏角"},
+            {"Integer(", 21, 1, 1, "Integer()：整数化"},
+            {"Power(", 22, 2, 2, "Power(a,b)：a^b"},
+            {"Random(", 23, 0, 1, "Random()：乱数"},
+            {"Randomize(", 24, 0, 1, "Randomize()：乱数初期化"},
+            {"Boolean(", kBooleanFunctionCode, 1, 1, "Boolean()：論理評価(真=1,偽=0)"}};
+}
+
+std::vector<MatrixFunction> MatrixFunctions() {
+    return {
+        {"Gauss(", "'  書式：X=Gauss(A,B) → X(i)=Inv{A(i,j)}･B(j)", "'連立方程式 A(i,j)･X(j)=B(i) の解"},
+        {"MatxVec(", "'  書式：C=MatxVec(A,B) → C(i)=ΣA(i,k)･B(k)", "'マトリクス A とベクトル B の積"},
+        {"MatxMat(", "'  書式：C=MatxMat(A,B) → C(i,j)=ΣA(i,k)･B(k,j)",
+         "'マトリクス A とマトリクス B の積"},
+        {"MatI1(", "'  書式：I1=MatI1(A) → I1=ΣA(i,i)", "'マトリクス A の第一不変量"},
+        {"MatJ2(", "'  書式：J2=MatJ2(A) → J2=ΣΣA(i,j)･B(i,j)", "'マトリクス A の偏差成分の第二不変量"},
+        {"MatI3(", "'  書式：I3=MatI3(A) → I3=|A(i,j)|", "'マトリクス A の第三不変量"},
+        {"INVMAT(", "'  書式：InvA=MatInv(A) → InvA(i,j)=Inv{A(i,j)}", "'逆行列"}};
+}
+
+Vocabulary& Tables() {
+    static Vocabulary tables;
+    return tables;
+}
+
+bool& Initialised() {
+    static bool initialised = false;
+    return initialised;
+}
+
+}  // namespace
+
+void InitVocabulary() {
+    if (!Initialised()) {
+        Vocabulary& v = Tables();
+        v.operatorSynonyms = OperatorSynonyms();
+        v.operators = CanonicalOperators();
+        v.keywords = Keywords();
+        v.keywordMenu = KeywordMenu();
+        v.constants = Constants();
+        v.constantHelp = ConstantHelp();
+        v.scalarFunctions = ScalarFunctions();
+        v.matrixFunctions = MatrixFunctions();
+        Initialised() = true;
+    }
+    AngleUnit = 1.0;
+    ReseedRandom();
+}
+
+const Vocabulary& GetVocabulary() {
+    if (!Initialised()) InitVocabulary();
+    return Tables();
+}
+
+bool SameWord(std::string_view a, std::string_view b) {
+    return a.size() == b.size() &&
+           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Lower(x) == Lower(y); });
+}
+
+bool StartsWithWord(std::string_view text, std::string_view word) {
+    return text.size() >= word.size() && SameWord(text.substr(0, word.size()), word);
+}
+
+std::optional<std::size_t> FindScalarFunction(std::string_view text) {
+    const auto& functions = GetVocabulary().scalarFunctions;
+    for (std::size_t i = 0; i < functions.size(); ++i) {
+        if (StartsWithWord(text, functions[i].name)) return i;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::size_t> FindMatrixFunction(std::string_view text) {
+    const auto& functions = GetVocabulary().matrixFunctions;
+    for (std::size_t i = 0; i < functions.size(); ++i) {
+        if (StartsWithWord(text, functions[i].name)) return i;
+    }
+    return std::nullopt;
+}
+
+std::optional<Complex> ConstantValue(std::string_view name) {
+    for (const NamedConstant& constant : GetVocabulary().constants) {
+        if (!SameWord(name, constant.name)) continue;
+        const double pi = 4.0 * std::atan(1.0);
+        switch (constant.group) {
+            case kPi: return Complex{pi, 0.0};
+            case kTwoPi: return Complex{2.0 * pi, 0.0};
+            case kHalfPi: return Complex{pi / 2.0, 0.0};
+            case kE: return CplExp({1.0, 0.0});
+            case kImaginaryUnit: return Complex{0.0, 1.0};
+            case kRandom: return Complex{NextRandom(), 0.0};
+            case kRandomize:
+                ReseedRandom();
+                return Complex{NextRandom(), 0.0};
+        }
+    }
+    return std::nullopt;
+}
+
+bool IsReservedWord(std::string_view name) {
+    if (name.empty() || (name.front() >= '0' && name.front() <= '9')) return false;
+    const Vocabulary& v = GetVocabulary();
+    const auto matches = [&](std::string_view word) { return SameWord(name, word); };
+    return std::any_of(v.keywords.begin(), v.keywords.end(), [&](auto& k) { return matches(k.word); }) ||
+           std::any_of(v.operatorSynonyms.begin(), v.operatorSynonyms.end(),
+                       [&](auto& o) { return matches(o.synonym) || matches(o.canonical); }) ||
+           std::any_of(v.constants.begin(), v.constants.end(), [&](auto& c) { return matches(c.name); }) ||
+           std::any_of(v.scalarFunctions.begin(), v.scalarFunctions.end(),
+                       [&](auto& f) { return matches(f.name); }) ||
+           std::any_of(v.matrixFunctions.begin(), v.matrixFunctions.end(),
+                       [&](auto& f) { return matches(f.name); });
+}
+
+}  // namespace lapdesk
