@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "commands.h"
-#include "expr/evaluator.h"
-#include "expr/plain_scope.h"
-#include "expr/vocabulary.h"
+#include "console_view.h"
+#include "interp/interpreter.h"
+#include "language_options.h"
 #include "values/number_text.h"
 
 namespace lapdesk::cli {
@@ -16,36 +16,36 @@ namespace lapdesk::cli {
 namespace {
 
 struct CalcOptions {
-    bool rounded = false;
+    LanguageOptions language;
     std::vector<std::string> lines;
 };
 
-// Evaluates one line; prints the value or "Error" and the reason.
-bool RunLine(const std::string& line, PlainScope& scope, bool rounded) {
-    const Evaluation result = Evaluate(line, scope);
+// Runs one line; prints the value or "Error", and the reason on stderr.
+bool RunLine(std::string line, Interpreter& session, ConsoleView& view) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    view.ResetStop();
+    ImmediateResult result = session.ImmediateLine(line);
     if (!result.ok) {
         std::cout << "Error\n";
-        std::cerr << line << " : " << result.message << '\n';
+        const std::string& reason = session.ImmediatePage().ErrorText();
+        std::cerr << line << " : " << (reason.empty() ? "式が正しくありません" : ForTerminal(reason))
+                  << '\n';
         return false;
     }
-    Complex value = result.value;
-    std::cout << ComplexToText(value, rounded) << '\n';
+    std::cout << ComplexToText(result.value, view.RoundedDisplay()) << '\n';
     return true;
 }
 
 int RunCalc(const CalcOptions& options) {
-    InitVocabulary();
-    PlainScope scope;
+    ConsoleView view(options.language.rounded);
+    Interpreter session(view);
+    options.language.ApplyTo(session);
     bool allOk = true;
-    const auto run = [&](std::string line) {
-        if (!line.empty() && line.back() == '\r') line.pop_back();
-        allOk = RunLine(line, scope, options.rounded) && allOk;
-    };
     if (options.lines.empty()) {
         std::string line;
-        while (std::getline(std::cin, line)) run(line);
+        while (std::getline(std::cin, line)) allOk = RunLine(line, session, view) && allOk;
     } else {
-        for (const std::string& line : options.lines) run(line);
+        for (const std::string& line : options.lines) allOk = RunLine(line, session, view) && allOk;
     }
     return allOk ? 0 : 1;
 }
@@ -56,7 +56,7 @@ void AddCalcCommand(CLI::App& app, int& exitStatus) {
     auto options = std::make_shared<CalcOptions>();
     CLI::App* calc = app.add_subcommand(
         "calc", "Evaluate each LINE (or each line of standard input) as the calculator's immediate line");
-    calc->add_flag("--rounded", options->rounded, "Show values rounded to 6 significant digits");
+    options->language.AddTo(*calc);
     calc->add_option("LINE", options->lines, "Lines to evaluate (after --, lines may begin with -)");
     calc->callback([options, &exitStatus] { exitStatus = RunCalc(*options); });
 }

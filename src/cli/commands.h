@@ -10,5 +10,6 @@ class App;
 namespace lapdesk::cli {
 
 void AddCalcCommand(CLI::App& app, int& exitStatus);
+void AddRunCommand(CLI::App& app, int& exitStatus);
 
 }  // namespace lapdesk::cli

@@ -15,15 +15,6 @@ namespace {
 constexpr std::string_view kTooDeep = "式の入れ子が深すぎます";
 constexpr std::string_view kBrackets = "括弧が対応していません";
 
-bool ClosesAt(std::string_view text, std::size_t open) {
-    int depth = 0;
-    for (std::size_t i = open; i < text.size(); ++i) {
-        if (text[i] == '(') ++depth;
-        if (text[i] == ')' && --depth == 0) return i == text.size() - 1;
-    }
-    return false;
-}
-
 }  // namespace
 
 bool Evaluator::Fail(std::string reason) {
@@ -112,7 +103,7 @@ bool Evaluator::EvalPrimary(std::string_view& text, Complex& value) {
         text = {};
         return true;
     }
-    if (text.front() == '(' && ClosesAt(text, 0)) {
+    if (text.front() == '(' && BracketClosesAtEnd(text, 0)) {
         std::string_view inside = text.substr(1, text.size() - 2);
         if (!EvalSum(inside, value)) return false;
         text = {};
@@ -124,7 +115,7 @@ bool Evaluator::EvalPrimary(std::string_view& text, Complex& value) {
 bool Evaluator::EvalScalarFunction(std::size_t row, std::string_view text, Complex& value) {
     const ScalarFunction& function = GetVocabulary().scalarFunctions[row];
     const std::size_t open = function.name.size() - 1;
-    if (!ClosesAt(text, open)) return Fail(std::string(kBrackets));
+    if (!BracketClosesAtEnd(text, open)) return Fail(std::string(kBrackets));
     std::vector<std::string_view> pieces;
     const std::string_view inside = text.substr(open + 1, text.size() - open - 2);
     if (!Trim(inside).empty() && !SplitTopLevel(inside, ',', pieces)) {
@@ -150,7 +141,7 @@ bool Evaluator::EvalScalarFunction(std::size_t row, std::string_view text, Compl
 bool Evaluator::EvalMatrixFunction(std::size_t row, std::string_view text, Complex& value) {
     const MatrixFunction& function = GetVocabulary().matrixFunctions[row];
     const std::size_t open = function.name.size() - 1;
-    if (!ClosesAt(text, open)) return Fail(std::string(kBrackets));
+    if (!BracketClosesAtEnd(text, open)) return Fail(std::string(kBrackets));
     std::vector<std::string_view> names;
     if (!SplitTopLevel(text.substr(open + 1, text.size() - open - 2), ',', names)) return false;
     for (std::string_view& name : names) name = Trim(name);

@@ -3,11 +3,16 @@
 // of overflowing the machine stack.
 #pragma once
 
+#include <cstddef>
+
 namespace lapdesk {
 
 class NestingGuard {
 public:
-    NestingGuard();
+    // The stack budget counts from the outermost guard; a guard with a
+    // smaller budget fails before the evaluator's own nesting does.
+    static constexpr std::size_t kStackBudget = 3u << 20;
+    explicit NestingGuard(std::size_t stackBudget = kStackBudget);
     ~NestingGuard();
     NestingGuard(const NestingGuard&) = delete;
     NestingGuard& operator=(const NestingGuard&) = delete;

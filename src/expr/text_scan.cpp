@@ -97,6 +97,10 @@ bool SplitTopLevel(std::string_view text, char separator, std::vector<std::strin
     return true;
 }
 
+bool BracketClosesAtEnd(std::string_view text, std::size_t open) {
+    return open < text.size() && text[open] == '(' && MatchingBracket(text, open) == text.size() - 1;
+}
+
 std::size_t FindTopLevel(std::string_view text, char c) {
     int depth = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -123,7 +127,7 @@ bool SplitNameAndSubscripts(std::string_view text, NameWithSubscripts& result) {
         result.name = text;
         return IsValidName(text);
     }
-    if (MatchingBracket(text, open) != text.size() - 1) return false;
+    if (!BracketClosesAtEnd(text, open)) return false;
     result.name = TrimRight(text.substr(0, open));
     if (!IsValidName(result.name)) return false;
     if (!SplitTopLevel(text.substr(open + 1, text.size() - open - 2), ',', result.subscripts)) {

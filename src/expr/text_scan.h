@@ -25,6 +25,9 @@ bool SplitOperand(std::string_view& text, std::string_view ops, std::string_view
 // Cuts at every `separator` outside brackets; false on unbalanced brackets.
 bool SplitTopLevel(std::string_view text, char separator, std::vector<std::string_view>& pieces);
 
+// True when the "(" at `open` is closed by the text's last character.
+bool BracketClosesAtEnd(std::string_view text, std::size_t open);
+
 // Position of the first `c` outside brackets, npos when there is none or
 // the brackets do not balance before it.
 std::size_t FindTopLevel(std::string_view text, char c);

@@ -1,0 +1,51 @@
+// The interpreter's view on a terminal: messages go to standard error at
+// once, the answer field is kept for the caller, and Ctrl+C asks a running
+// program to stop.
+#pragma once
+
+#include <string>
+
+#include "interp/interpreter_view.h"
+
+namespace lapdesk::cli {
+
+class ConsoleView : public InterpreterView {
+public:
+    explicit ConsoleView(bool rounded);
+    ~ConsoleView() override;
+    ConsoleView(const ConsoleView&) = delete;
+    ConsoleView& operator=(const ConsoleView&) = delete;
+
+    const std::string& kai() const { return kai_; }
+    bool sawMessage() const { return sawMessage_; }
+
+    void Errmessage(const std::string& message) override;
+    void ShowPageIndex(std::int16_t) override {}
+    void ShowLineIndex(std::int16_t) override {}
+    void ClearProgramList() override {}
+    void AddProgramListEntry(const std::string&) override {}
+    bool ProgramListVisible() const override { return false; }
+    void SelectProgramListEntry(std::int16_t) override {}
+    void SetKai(const std::string& text) override { kai_ = text; }
+    void ShowHint(const std::string& text) override;
+    void HideHint() override {}
+    void SetPhaseColour(std::uint32_t) override {}
+    bool RoundedDisplay() const override { return rounded_; }
+    void ClearMemoryDisplay() override {}
+    void CalProcMeter(double, bool) override {}
+    bool StopRequested() const override;
+    void ProcessEvents() override {}
+
+    // Clears a stop request so the next run starts afresh.
+    void ResetStop();
+
+private:
+    bool rounded_;
+    bool sawMessage_ = false;
+    std::string kai_;
+};
+
+// Message text for a terminal: the interpreter's CR LF becomes a newline.
+std::string ForTerminal(std::string text);
+
+}  // namespace lapdesk::cli

@@ -1,0 +1,131 @@
+// A page's identity, its stored lines, and its immediate statements.
+#include "interp/code_page.h"
+
+#include "expr/evaluator.h"
+#include "expr/keywords.h"
+#include "expr/text_scan.h"
+#include "expr/vocabulary.h"
+#include "interp/interpreter.h"
+#include "interp/text_helpers.h"
+#include "values/builtins.h"
+
+namespace lapdesk {
+
+ClsCode::ClsCode(Interpreter& session) : session_(session) {}
+
+void ClsCode::SetPageName(std::string name) {
+    pageName_ = std::move(name);
+    if (SameWord(pageName_, "Imidate")) {
+        pageIndex_ = -1;
+        session_.RegisterGlobalPage(*this);
+        ReseedRandom();
+    }
+}
+
+void ClsCode::SetAnalized(bool analized) {
+    analized_ = analized;
+    if (pageIndex_ != -1 || analized) return;
+    for (std::int16_t p = 0; p < session_.PageCount(); ++p) session_.Page(p).analized_ = false;
+}
+
+std::int16_t ClsCode::NumofMemory() const { return static_cast<std::int16_t>(memory_.size()); }
+std::int16_t ClsCode::NumofArg() const { return static_cast<std::int16_t>(arguments_.size()); }
+std::int16_t ClsCode::LineNum() const { return static_cast<std::int16_t>(lines_.size()); }
+
+std::string ClsCode::Code(std::int16_t i, std::int16_t& lnNo) const {
+    if (i < 0 || i >= LineNum()) return {};
+    lnNo = lines_[static_cast<std::size_t>(i)].LnNo;
+    return lines_[static_cast<std::size_t>(i)].Text;
+}
+
+void ClsCode::SetCode(std::int16_t i, std::int16_t lnNo, std::string text) {
+    if (i >= 0 && i < LineNum()) {
+        lines_[static_cast<std::size_t>(i)].Text = std::move(text);
+        lines_[static_cast<std::size_t>(i)].LnNo = lnNo;
+    } else {
+        Add16(LineNum(), 1);  // a page holds at most 32767 lines
+        lines_.push_back(CodeLine{std::move(text), lnNo});
+    }
+    SetAnalized(false);
+}
+
+bool ClsCode::APc01BotomLine() const {
+    if (lines_.empty()) return false;
+    std::string_view rest;
+    return ClassifyStatement(lines_.back().Text, rest) == kw::End;
+}
+
+bool ClsCode::ACalcu(std::string_view text, double& re, double& im) {
+    Evaluator evaluator(*this);
+    Complex value;
+    try {
+        if (!evaluator.EvalSum(text, value)) {
+            errorText_ = evaluator.failure().empty() ? "式が正しくありません" : evaluator.failure();
+            return false;
+        }
+    } catch (const RuntimeFault& fault) {
+        errorText_ = fault.description();
+        return false;
+    }
+    re = value.Re;
+    im = value.Im;
+    return true;
+}
+
+// target = expression on the immediate line: the target is looked up in this
+// page's own memory only; an unknown plain name becomes a new variable.
+void ClsCode::ACalcuWithMemoryStore(std::string_view expression, std::string_view target,
+                                    double& re, double& im, bool& ok) {
+    ok = false;
+    NameWithSubscripts parsed;
+    if (Trim(target).empty() || !SplitNameAndSubscripts(target, parsed)) {
+        errorText_ = "代入先が不正";
+        return;
+    }
+    if (ReportReserved(parsed.name)) return;
+    try {
+        std::int16_t index = -1;
+        for (std::int16_t k = 0; k < NumofMemory(); ++k) {
+            if (SameName(MemoryName(k), parsed.name, session_.caseSensitive())) index = k;
+            if (index >= 0) break;
+        }
+        if (index < 0) {
+            if (!parsed.subscripts.empty()) {
+                errorText_ = "代入先が不正";
+                return;
+            }
+            index = AppendVariable(parsed.name, 0, 0, 0);
+        }
+        StatementCode code{"M", index, static_cast<std::int16_t>(parsed.subscripts.size()), "", "",
+                           std::string(Trim(expression))};
+        if (!parsed.subscripts.empty()) code.Subscript1 = parsed.subscripts[0];
+        if (parsed.subscripts.size() > 1) code.Subscript2 = parsed.subscripts[1];
+        Complex assigned;
+        ok = Assign(code, assigned);
+        re = assigned.Re;
+        im = assigned.Im;
+    } catch (const RuntimeFault& fault) {
+        errorText_ = fault.description();
+        ok = false;
+    }
+}
+
+bool ClsCode::AImidateStatement(std::string_view text, double& re, double& im) {
+    text = Trim(text);
+    if (text.find('=') == std::string_view::npos) {
+        const std::size_t blank = text.find_first_of(" \t");
+        const std::string_view word = text.substr(0, blank);
+        if (!SameWord(word, "Global") && !SameWord(word, "Dim")) return false;
+        std::vector<std::string_view> items;
+        const std::string_view rest = blank == std::string_view::npos ? "" : text.substr(blank);
+        if (!SplitTopLevel(rest, ',', items)) return false;
+        return AStateMentDimension(items);
+    }
+    const std::size_t equals = FindTopLevel(text, '=');
+    if (equals == std::string_view::npos) return false;
+    bool ok = false;
+    ACalcuWithMemoryStore(Trim(text.substr(equals + 1)), Trim(text.substr(0, equals)), re, im, ok);
+    return ok;
+}
+
+}  // namespace lapdesk

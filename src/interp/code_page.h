@@ -1,0 +1,170 @@
+// One page of the calculator language: the immediate page "Imidate" (whose
+// memory is the global memory), the "Main" page, or a function page, with
+// its statements, variables, parameters, analysis tables and run state.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "expr/name_scope.h"
+#include "interp/page_records.h"
+#include "values/matrix.h"
+
+namespace lapdesk {
+
+class Interpreter;
+class Evaluator;
+
+class ClsCode : public NameScope {
+public:
+    explicit ClsCode(Interpreter& session);
+
+    const std::string& PageName() const { return pageName_; }
+    void SetPageName(std::string name);  // "Imidate" (any case) makes it the global page
+    bool Analized() const { return analized_; }
+    void SetAnalized(bool analized);  // false on the immediate page clears every page
+    std::int16_t PageIndex() const { return pageIndex_; }
+    void SetPageIndex(std::int16_t index) { pageIndex_ = index; }
+    std::int16_t NumofMemory() const;
+    std::int16_t NumofArg() const;
+
+    // Statements: Code(i) reads line i (empty text past the end); SetCode
+    // replaces line i, or appends when i is not a stored line.
+    std::string Code(std::int16_t i, std::int16_t& lnNo) const;
+    void SetCode(std::int16_t i, std::int16_t lnNo, std::string text);
+    std::int16_t LineNum() const;
+    const CodeLine& Line(std::int16_t i) const { return lines_.at(static_cast<std::size_t>(i)); }
+
+    // Memory.
+    void AEraseMemorys();
+    void AEraseMemory(std::int16_t i);
+    const std::string& MemoryName(std::int16_t i) const { return Memory(i).Name; }
+    std::int16_t MemoryTyp(std::int16_t i) const { return Memory(i).Typ; }
+    std::int16_t MemoryNI(std::int16_t i) const { return Memory(i).NI; }
+    std::int16_t MemoryNJ(std::int16_t i) const { return Memory(i).NJ; }
+    std::int16_t MemoryLn(std::int16_t i) const { return Memory(i).Ln; }
+    void AImidateGetMemoryInformation(std::int16_t i, std::string& name, std::int16_t& typ,
+                                      std::int16_t& ni, std::int16_t& nj, double& re,
+                                      double& im) const;
+    // Element access; a flat index of 65535 (or -1) means "compute it from
+    // i and j" and receives the computed index.
+    bool AVariableValueDirectGet(std::int16_t k, std::int16_t i, std::int16_t j, std::int32_t& flat,
+                                 double& re, double& im) const;
+    bool AzVariableValueDirectSet(std::int16_t k, std::int16_t i, std::int16_t j,
+                                  std::int32_t& flat, double re, double im);
+
+    // Looks a name up: own memory ("M"), parameters ("I", "E" or "A"),
+    // globals ("G"); the immediate page falls back on "Main" ("Main").
+    // Empty kind when unknown.
+    struct Found {
+        std::string kind;
+        ClsCode* page = nullptr;
+        std::int16_t index = -1;  // memory index in `page`
+        std::int16_t slot = -1;   // parameter slot for "I", "E" and "A"
+        std::int16_t typ = 0;
+        std::int16_t ni = 0;
+        std::int16_t nj = 0;
+        Complex value;  // element 0, or the parameter's value
+    };
+    Found AzIsVariableSearch(std::string_view name);
+
+    // Declares each item (name, name(a) or name(a,b)) in this page's memory.
+    bool AStateMentDimension(std::span<const std::string_view> items);
+
+    // Expressions and immediate statements in this page's scope.
+    bool ACalcu(std::string_view text, double& re, double& im);
+    void ACalcuWithMemoryStore(std::string_view expression, std::string_view target, double& re,
+                               double& im, bool& ok);
+    bool AImidateStatement(std::string_view text, double& re, double& im);
+
+    // Analysis, execution and function definition passes.
+    bool APc01BotomLine() const;
+    bool APc01CodeAnalize();
+    bool APc02CodeExecute(double& re, double& im);
+    bool APc03DefineFunction(std::string_view header);
+    void ACopyToArgment(std::int16_t index, const CallArgument& argument);
+
+    // The reason of the last failure on this page.
+    const std::string& ErrorText() const { return errorText_; }
+    std::int16_t CurrentLine() const { return currentLine_; }
+
+    // NameScope: how expressions on this page read names and call functions.
+    bool ReadVariable(Evaluator& evaluator, std::string_view name,
+                      std::span<const std::string_view> subscripts, Complex& value) override;
+    bool CallUserFunction(Evaluator& evaluator, std::string_view call, Complex& value) override;
+    bool CallMatrixFunction(std::size_t index, std::span<const std::string_view> arguments,
+                            Complex& value) override;
+
+private:
+    enum class Flow { Normal, End, Fail };  // End: the page finished early (End, Return)
+
+    // Memory (code_page_memory.cpp).
+    const MemoryRec& Memory(std::int16_t i) const;
+    MemoryRec& Memory(std::int16_t i);
+    std::int16_t AppendVariable(std::string_view name, std::int16_t typ, std::int16_t ni,
+                                std::int16_t nj);
+    bool DeclareItem(std::string_view item);
+    bool ReportReserved(std::string_view name);
+    // The variable a lookup refers to, and the parameter slot it went through.
+    MemoryRec* Referent(const Found& found, CallArgument** slot);
+    bool EvalSubscript(Evaluator& evaluator, std::string_view text, std::int16_t& index);
+    bool ElementIndex(Evaluator& evaluator, const MemoryRec& rec,
+                      std::span<const std::string_view> subscripts, std::int32_t& flat);
+
+    // Analysis (code_page_analysis.cpp).
+    bool Fail(std::string reason);
+    bool AnalyseLine(std::int16_t& i);
+    bool AnalyseAssignment(std::string_view text, bool& isAssignment);
+    bool AnalyseFor(std::int16_t& i, std::string_view rest);
+    bool AnalyseDo(std::int16_t& i, std::string_view rest);
+    bool AnalyseIf(std::int16_t& i, std::string_view rest);
+    bool AnalyseSelect(std::int16_t& i, std::string_view rest);
+    bool AnalyseExit(std::int16_t i, std::int16_t code);
+    bool EndsPage(std::int16_t i) const;
+    void MarkLine(std::int16_t i, std::int16_t kind, std::int16_t codeIndex, std::int16_t link);
+
+    // Execution (code_page_run.cpp).
+    Flow RunLoop(std::int16_t& line, std::int16_t first, std::int16_t last);
+    Flow Dispatch(std::int16_t& line);
+    bool RunFor(std::int16_t& line, bool isNext);
+    bool RunDo(std::int16_t& line, bool isLoop);
+    Flow RunBranch(std::int16_t& line, const std::vector<std::int16_t>& boundaries,
+                   const std::vector<std::string>& conditions, std::int16_t branch);
+    bool Condition(std::string_view text, bool& truth);
+    bool Assign(const StatementCode& code, Complex& assigned);
+    void ShowProgress(std::int16_t line);
+    void ReportRunError(std::int16_t line, std::string_view reason);
+
+    // Functions and calls (code_page_calls.cpp).
+    bool AnalyseCall(std::string_view text, std::int16_t& entry);
+    bool BindArgument(std::string_view text, CallArgument& argument);
+    bool RunCall(CallEntry& entry, Complex& result);
+    bool PrepareArgument(Evaluator& evaluator, CallArgument& argument, std::string& reason);
+
+    Interpreter& session_;
+    std::string pageName_;
+    std::int16_t pageIndex_ = 0;
+    bool analized_ = false;
+    std::vector<CodeLine> lines_;
+    std::vector<MemoryRec> memory_;
+    std::vector<CallArgument> arguments_;
+    std::vector<CallEntry> calls_;
+    std::vector<ForBlock> fors_;
+    std::vector<DoBlock> dos_;
+    std::vector<IfBlock> ifs_;
+    std::vector<SelectBlock> selects_;
+    std::vector<StatementCode> statements_;
+    std::int16_t currentLine_ = 0;
+    std::int16_t innermostFor_ = -1;
+    std::int16_t innermostDo_ = -1;
+    std::int16_t errorLine_ = 0;
+    std::string errorText_;
+    Complex valueArea_;
+    std::optional<ComplexArray> arrayResult_;  // of the last matrix function
+};
+
+}  // namespace lapdesk

@@ -1,0 +1,367 @@
+// Analysis: classifies every line of a page, matches each block opener with
+// its closing line, and builds the block and statement tables that
+// execution jumps through.
+#include <string>
+
+#include "expr/keywords.h"
+#include "expr/text_scan.h"
+#include "expr/vocabulary.h"
+#include "interp/code_page.h"
+#include "values/fault.h"
+#include "interp/interpreter.h"
+#include "interp/text_helpers.h"
+
+namespace lapdesk {
+
+namespace {
+
+std::int16_t Classify(const CodeLine& line, std::string_view& rest) {
+    return ClassifyStatement(line.Text, rest);
+}
+
+std::int16_t Count(std::size_t size) { return ToInt16(static_cast<long long>(size)); }
+
+// [While cond | Until cond] after Do or Loop.
+bool ConditionWord(std::string_view rest, std::string& word, std::string& condition) {
+    std::string_view after;
+    const std::int16_t code = ClassifyStatement(rest, after);
+    if (code == kw::While || code == kw::Until) {
+        word = code == kw::While ? "W" : "U";
+        condition = std::string(after);
+        return !Trim(after).empty();
+    }
+    word.clear();
+    condition.clear();
+    return Trim(rest).empty();
+}
+
+}  // namespace
+
+bool ClsCode::Fail(std::string reason) {
+    errorText_ = std::move(reason);
+    return false;
+}
+
+void ClsCode::MarkLine(std::int16_t i, std::int16_t kind, std::int16_t codeIndex,
+                       std::int16_t link) {
+    CodeLine& line = lines_[static_cast<std::size_t>(i)];
+    line.Kind = kind;
+    line.CodeIndex = codeIndex;
+    line.Link = link;
+}
+
+bool ClsCode::EndsPage(std::int16_t i) const {
+    std::string_view rest;
+    return i >= LineNum() || Classify(lines_[static_cast<std::size_t>(i)], rest) == kw::End;
+}
+
+bool ClsCode::APc01CodeAnalize() {
+    calls_.clear();
+    fors_.clear();
+    dos_.clear();
+    ifs_.clear();
+    selects_.clear();
+    statements_.clear();
+    innermostFor_ = -1;
+    innermostDo_ = -1;
+    analized_ = false;
+    bool ok = false;
+    try {
+        for (std::int16_t i = 0;; i = Add16(i, 1)) {
+            if (i >= LineNum()) {
+                errorLine_ = LineNum() > 0 ? Sub16(LineNum(), 1) : 0;
+                Fail("Endが無い");
+                break;
+            }
+            std::string_view rest;
+            if (Classify(lines_[static_cast<std::size_t>(i)], rest) == kw::End) {
+                MarkLine(i, kw::End, -999, -999);
+                analized_ = ok = true;
+                break;
+            }
+            if (!AnalyseLine(i)) break;
+        }
+    } catch (const RuntimeFault& fault) {
+        Fail(fault.description());
+    }
+    if (ok) return true;
+    std::string message = pageName_ + ": " + std::to_string(errorLine_ + 1) + "行目解析エラー";
+    message += kCrLf;
+    if (errorLine_ < LineNum()) message += lines_[static_cast<std::size_t>(errorLine_)].Text;
+    session_.view().Errmessage(message + ":" + errorText_);
+    return false;
+}
+
+bool ClsCode::AnalyseLine(std::int16_t& i) {
+    errorText_.clear();
+    errorLine_ = i;
+    lines_[static_cast<std::size_t>(i)].Kind = -1;
+    const std::string text = lines_[static_cast<std::size_t>(i)].Text;
+    std::string_view rest;
+    const std::int16_t code = ClassifyStatement(text, rest);
+    std::vector<std::string_view> items;
+    switch (code) {
+        case kw::Dim:
+            if (!SplitTopLevel(rest, ',', items) || !AStateMentDimension(items)) {
+                return Fail(errorText_.empty() ? "Dim文" : errorText_);
+            }
+            MarkLine(i, code, -999, -999);
+            return true;
+        case kw::Global: {
+            if (pageIndex_ > 0) return Fail("サブルーチンから大域変数は定義出来ません");
+            ClsCode& global = session_.ImmediatePage();
+            if (!SplitTopLevel(rest, ',', items) || !global.AStateMentDimension(items)) {
+                return Fail(global.errorText_.empty() ? "Global文" : global.errorText_);
+            }
+            MarkLine(i, code, -999, -999);
+            return true;
+        }
+        case kw::Call: {
+            std::int16_t entry = 0;
+            if (!AnalyseCall(rest, entry)) return false;
+            MarkLine(i, code, entry, -999);
+            return true;
+        }
+        case kw::For: return AnalyseFor(i, rest);
+        case kw::Do: return AnalyseDo(i, rest);
+        case kw::If: return AnalyseIf(i, rest);
+        case kw::Select: return AnalyseSelect(i, rest);
+        case kw::Next: return Fail("Forが無い");
+        case kw::Loop: return Fail("Doが無い");
+        case kw::EndIf: return Fail("IFが無い");
+        case kw::EndSelect: return Fail("SelectCaseが無い");
+        case kw::ExitFor:
+        case kw::ExitDo: return AnalyseExit(i, code);
+        case kw::Return:
+        case kw::Function:
+        case kw::ExitFunction: MarkLine(i, code, -999, -999); return true;
+        default: break;
+    }
+    bool isAssignment = false;
+    if (!AnalyseAssignment(text, isAssignment)) return false;
+    if (isAssignment) {
+        MarkLine(i, kw::Assignment, Sub16(Count(statements_.size()), 1), -999);
+        return true;
+    }
+    std::int16_t entry = 0;
+    if (AnalyseCall(text, entry)) {
+        MarkLine(i, kw::BareCall, entry, -999);
+        return true;
+    }
+    return Fail("無効なコード");
+}
+
+// target = expression: the target is the page's own name (its result), a
+// variable of the page, a parameter, a global, or a new variable of the page.
+bool ClsCode::AnalyseAssignment(std::string_view text, bool& isAssignment) {
+    const std::size_t equals = FindTopLevel(text, '=');
+    isAssignment = equals != std::string_view::npos;
+    if (!isAssignment) return true;
+    const std::string_view target = Trim(text.substr(0, equals));
+    StatementCode code{"R", 0, 0, "", "", std::string(Trim(text.substr(equals + 1)))};
+    if (!SameName(target, pageName_, session_.caseSensitive())) {
+        NameWithSubscripts parsed;
+        if (!SplitNameAndSubscripts(target, parsed) || ReportReserved(parsed.name)) {
+            return Fail("代入先が不正");
+        }
+        const Found found = AzIsVariableSearch(parsed.name);
+        if (found.kind == "M" || found.kind == "G") {
+            code.TargetKind = found.kind;
+            code.TargetIndex = found.index;
+        } else if (found.kind == "I" || found.kind == "E" || found.kind == "A") {
+            code.TargetKind = "A";
+            code.TargetIndex = found.slot;
+        } else if (found.kind.empty() && parsed.subscripts.empty() && pageIndex_ != -1) {
+            code.TargetKind = "M";
+            code.TargetIndex = AppendVariable(parsed.name, 0, 0, 0);
+        } else {
+            return Fail("代入先が不正");
+        }
+        code.SubscriptCount = Count(parsed.subscripts.size());
+        if (!parsed.subscripts.empty()) code.Subscript1 = parsed.subscripts[0];
+        if (parsed.subscripts.size() > 1) code.Subscript2 = parsed.subscripts[1];
+    }
+    Add16(Count(statements_.size()), 1);
+    statements_.push_back(std::move(code));
+    return true;
+}
+
+// For name = start To end [Step step] ... Next
+bool ClsCode::AnalyseFor(std::int16_t& i, std::string_view rest) {
+    const std::size_t to = FindWordNoCase(rest, "to");
+    const std::size_t equals = to == 0 ? std::string_view::npos : rest.substr(0, to - 1).find('=');
+    if (equals == std::string_view::npos) return Fail("For文");
+    const std::string_view name = Trim(rest.substr(0, equals));
+    const std::string_view range = rest.substr(to - 1 + 2);
+    const std::size_t step = FindWordNoCase(range, "Step");
+    ForBlock block;
+    block.ForLine = i;
+    block.StartText = std::string(Trim(rest.substr(equals + 1, to - 1 - equals - 1)));
+    block.EndText = std::string(Trim(step == 0 ? range : range.substr(0, step - 1)));
+    block.StepText = step == 0 ? "1" : std::string(Trim(range.substr(step - 1 + 4)));
+    if (!IsValidName(name) || ReportReserved(name)) return Fail("For文");
+    block.VariableIndex = -1;
+    for (std::int16_t k = 0; k < NumofMemory(); ++k) {
+        if (SameName(MemoryName(k), name, session_.caseSensitive())) block.VariableIndex = k;
+        if (block.VariableIndex >= 0) break;
+    }
+    if (block.VariableIndex < 0) block.VariableIndex = AppendVariable(name, 0, 0, 0);
+    const std::int16_t entry = Count(fors_.size());
+    Add16(entry, 1);
+    fors_.push_back(std::move(block));
+    const std::int16_t forLine = i;
+    const std::int16_t outer = innermostFor_;
+    innermostFor_ = entry;
+    MarkLine(i, kw::For, entry, -999);
+    for (i = Add16(i, 1);; i = Add16(i, 1)) {
+        if (EndsPage(i)) {
+            errorLine_ = forLine;
+            return Fail("Nextが無い");
+        }
+        std::string_view after;
+        if (Classify(lines_[static_cast<std::size_t>(i)], after) == kw::Next) break;
+        if (!AnalyseLine(i)) return false;
+    }
+    MarkLine(i, kw::Next, entry, -999);
+    fors_[static_cast<std::size_t>(entry)].NextLine = i;
+    innermostFor_ = outer;
+    return true;
+}
+
+// Do [While cond | Until cond] ... Loop [While cond | Until cond]
+bool ClsCode::AnalyseDo(std::int16_t& i, std::string_view rest) {
+    DoBlock block;
+    block.DoLine = i;
+    if (!ConditionWord(rest, block.DoWord, block.DoCondition)) return Fail("Do文");
+    const std::int16_t entry = Count(dos_.size());
+    Add16(entry, 1);
+    dos_.push_back(std::move(block));
+    const std::int16_t doLine = i;
+    const std::int16_t outer = innermostDo_;
+    innermostDo_ = entry;
+    MarkLine(i, kw::Do, entry, -999);
+    std::string_view after;
+    for (i = Add16(i, 1);; i = Add16(i, 1)) {
+        if (EndsPage(i)) {
+            errorLine_ = doLine;
+            return Fail("Loopが無い");
+        }
+        if (Classify(lines_[static_cast<std::size_t>(i)], after) == kw::Loop) break;
+        if (!AnalyseLine(i)) return false;
+    }
+    DoBlock& done = dos_[static_cast<std::size_t>(entry)];
+    errorLine_ = i;
+    if (!ConditionWord(after, done.LoopWord, done.LoopCondition)) return Fail("Loop文");
+    done.LoopLine = i;
+    MarkLine(i, kw::Loop, entry, -999);
+    innermostDo_ = outer;
+    return true;
+}
+
+bool ClsCode::AnalyseExit(std::int16_t i, std::int16_t code) {
+    const std::int16_t innermost = code == kw::ExitFor ? innermostFor_ : innermostDo_;
+    if (innermost < 0) return Fail(code == kw::ExitFor ? "Forが無い" : "Doが無い");
+    MarkLine(i, code, innermost, -999);
+    return true;
+}
+
+namespace {
+
+// The condition before "Then"; nothing may follow "Then" on the line.
+bool ThenCondition(std::string_view rest, std::string& condition) {
+    const std::size_t then = FindWordNoCase(rest, "Then");
+    if (then == 0 || !Trim(rest.substr(then - 1 + 4)).empty()) return false;
+    condition = std::string(Trim(rest.substr(0, then - 1)));
+    return !condition.empty();
+}
+
+}  // namespace
+
+// If cond Then ... [ElseIf cond Then ...] [Else ...] End If
+bool ClsCode::AnalyseIf(std::int16_t& i, std::string_view rest) {
+    IfBlock block;
+    std::string condition;
+    if (!ThenCondition(rest, condition)) return Fail("IF文判別式");
+    block.Conditions.push_back(condition);
+    const std::int16_t entry = Count(ifs_.size());
+    Add16(entry, 1);
+    ifs_.push_back(std::move(block));
+    const std::int16_t ifLine = i;
+    MarkLine(i, kw::If, entry, 0);
+    for (i = Add16(i, 1);; i = Add16(i, 1)) {
+        if (EndsPage(i)) {
+            errorLine_ = ifLine;
+            return Fail("Endifが無い");
+        }
+        std::string_view after;
+        const std::int16_t code = Classify(lines_[static_cast<std::size_t>(i)], after);
+        IfBlock& open = ifs_[static_cast<std::size_t>(entry)];
+        const std::int16_t branch = Count(open.Boundaries.size() + 1);
+        if (code == kw::ElseIf || code == kw::Else || code == kw::EndIf) {
+            open.Boundaries.push_back(i);
+            MarkLine(i, code, entry, branch);
+            if (code == kw::EndIf) return true;
+            if (code == kw::Else) {
+                open.Conditions.emplace_back(kUnconditional);
+            } else if (ThenCondition(after, condition)) {
+                open.Conditions.push_back(condition);
+            } else {
+                errorLine_ = i;
+                return Fail("IF文判別式");
+            }
+            continue;
+        }
+        if (!AnalyseLine(i)) return false;
+    }
+}
+
+// Select Case selector ... Case v1, v2 ... [Case Else ...] End Select
+bool ClsCode::AnalyseSelect(std::int16_t& i, std::string_view rest) {
+    std::string_view selectorText;
+    if (ClassifyStatement(rest, selectorText) != kw::Case || Trim(selectorText).empty()) {
+        return Fail("Select Case文");
+    }
+    SelectBlock block;
+    block.Selector = std::string(Trim(selectorText));
+    const std::int16_t entry = Count(selects_.size());
+    Add16(entry, 1);
+    selects_.push_back(std::move(block));
+    const std::int16_t selectLine = i;
+    MarkLine(i, kw::Select, entry, -999);
+    for (i = Add16(i, 1);; i = Add16(i, 1)) {
+        if (EndsPage(i)) {
+            errorLine_ = selectLine;
+            return Fail("EndSelectが無い");
+        }
+        std::string_view after;
+        const std::int16_t code = Classify(lines_[static_cast<std::size_t>(i)], after);
+        SelectBlock& open = selects_[static_cast<std::size_t>(entry)];
+        if (code != kw::Case && code != kw::CaseElse && code != kw::EndSelect) {
+            if (!AnalyseLine(i)) return false;
+            continue;
+        }
+        if (!open.Conditions.empty() || code == kw::EndSelect) open.Boundaries.push_back(i);
+        MarkLine(i, code, entry, Count(open.Conditions.size()));
+        if (code == kw::EndSelect) return true;
+        if (code == kw::CaseElse) {
+            open.Conditions.emplace_back(kUnconditional);
+            continue;
+        }
+        // Case 1, 3 tests selector=1 Or selector=3; a value with "=" in it
+        // (>=5) follows the selector directly.
+        std::vector<std::string_view> values;
+        if (!SplitTopLevel(after, ',', values)) return Fail("Case文値");
+        std::string condition;
+        for (std::string_view value : values) {
+            value = Trim(value);
+            if (value.empty()) return Fail("Case文値");
+            if (!condition.empty()) condition += " Or ";
+            condition += open.Selector;
+            if (value.find('=') == std::string_view::npos) condition += "=";
+            condition += value;
+        }
+        open.Conditions.push_back(condition);
+    }
+}
+
+}  // namespace lapdesk

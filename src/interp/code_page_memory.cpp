@@ -1,0 +1,242 @@
+// A page's variables: lookup across the page, its parameters and the globals;
+// declaration, erasing and direct element access.
+#include <algorithm>
+#include <cmath>
+
+#include "expr/evaluator.h"
+#include "expr/matrix_call.h"
+#include "expr/text_scan.h"
+#include "expr/vocabulary.h"
+#include "interp/code_page.h"
+#include "interp/interpreter.h"
+#include "interp/text_helpers.h"
+
+namespace lapdesk {
+
+namespace {
+
+// A flat index of 65535 (the 16-bit -1 read as unsigned) asks for (i, j).
+bool ComputesFlatIndex(std::int32_t flat) { return flat == -1 || flat > 65534; }
+
+}  // namespace
+
+const MemoryRec& ClsCode::Memory(std::int16_t i) const {
+    if (i < 0 || i >= NumofMemory()) RaiseFault(FaultCode::SubscriptOutOfRange);
+    return memory_[static_cast<std::size_t>(i)];
+}
+
+MemoryRec& ClsCode::Memory(std::int16_t i) {
+    if (i < 0 || i >= NumofMemory()) RaiseFault(FaultCode::SubscriptOutOfRange);
+    return memory_[static_cast<std::size_t>(i)];
+}
+
+std::int16_t ClsCode::AppendVariable(std::string_view name, std::int16_t typ, std::int16_t ni,
+                                     std::int16_t nj) {
+    const std::int16_t ln = Sub16(Mul16(Add16(ni, 1), Add16(nj, 1)), 1);
+    const std::int16_t index = NumofMemory();
+    Add16(index, 1);
+    memory_.push_back(MemoryRec{std::string(name), typ, ni, nj, ln,
+                                std::vector<Complex>(static_cast<std::size_t>(ln) + 1)});
+    SetAnalized(false);
+    return index;
+}
+
+void ClsCode::AEraseMemorys() {
+    memory_.clear();
+    arguments_.clear();
+    calls_.clear();
+    fors_.clear();
+    dos_.clear();
+    ifs_.clear();
+    selects_.clear();
+    statements_.clear();
+    SetAnalized(false);
+}
+
+void ClsCode::AEraseMemory(std::int16_t i) {
+    Memory(i);  // bounds check
+    memory_.erase(memory_.begin() + i);
+    SetAnalized(false);
+}
+
+void ClsCode::AImidateGetMemoryInformation(std::int16_t i, std::string& name, std::int16_t& typ,
+                                           std::int16_t& ni, std::int16_t& nj, double& re,
+                                           double& im) const {
+    const MemoryRec& rec = Memory(i);
+    name = rec.Name;
+    typ = rec.Typ;
+    ni = rec.NI;
+    nj = rec.NJ;
+    re = rec.Values.front().Re;
+    im = rec.Values.front().Im;
+}
+
+bool ClsCode::AVariableValueDirectGet(std::int16_t k, std::int16_t i, std::int16_t j,
+                                      std::int32_t& flat, double& re, double& im) const {
+    const MemoryRec& rec = Memory(k);
+    if (ComputesFlatIndex(flat)) flat = (rec.NI + 1) * j + i;
+    if (flat > rec.Ln) return false;
+    if (flat < 0) RaiseFault(FaultCode::SubscriptOutOfRange);
+    re = rec.Values[static_cast<std::size_t>(flat)].Re;
+    im = rec.Values[static_cast<std::size_t>(flat)].Im;
+    return true;
+}
+
+bool ClsCode::AzVariableValueDirectSet(std::int16_t k, std::int16_t i, std::int16_t j,
+                                       std::int32_t& flat, double re, double im) {
+    MemoryRec& rec = Memory(k);
+    if (ComputesFlatIndex(flat)) flat = (rec.NI + 1) * j + i;
+    if (flat > rec.Ln) return false;
+    if (flat < 0) RaiseFault(FaultCode::SubscriptOutOfRange);
+    rec.Values[static_cast<std::size_t>(flat)] = {re, im};
+    return true;
+}
+
+ClsCode::Found ClsCode::AzIsVariableSearch(std::string_view name) {
+    const bool cs = session_.caseSensitive();
+    for (std::int16_t k = 0; k < NumofMemory(); ++k) {
+        const MemoryRec& rec = memory_[static_cast<std::size_t>(k)];
+        if (SameName(rec.Name, name, cs)) return {"M", this, k, -1, rec.Typ, rec.NI, rec.NJ, rec.Values[0]};
+    }
+    if (pageIndex_ != -1) {
+        for (std::int16_t s = 0; s < NumofArg(); ++s) {
+            CallArgument& slot = arguments_[static_cast<std::size_t>(s)];
+            if (!SameName(slot.Name, name, cs)) continue;
+            Found found{slot.IsValue() ? "I" : (slot.Flat >= 0 ? "E" : "A"), slot.Page, slot.Index, s,
+                        slot.SubscriptCount, slot.NI, slot.NJ, slot.Value};
+            CallArgument* through = nullptr;
+            if (const MemoryRec* rec = Referent(found, &through)) {
+                found.value = rec->Values[static_cast<std::size_t>(std::max(slot.Flat, 0))];
+            }
+            return found;
+        }
+        ClsCode& global = session_.ImmediatePage();
+        for (std::int16_t k = 0; k < global.NumofMemory(); ++k) {
+            if (!SameName(global.MemoryName(k), name, cs)) continue;
+            return {"G", &global, k, -1, global.MemoryTyp(k), global.MemoryNI(k), global.MemoryNJ(k),
+                    global.memory_[static_cast<std::size_t>(k)].Values[0]};
+        }
+    } else if (session_.PageCount() > 0) {
+        Found found = session_.Page(0).AzIsVariableSearch(name);
+        if (!found.kind.empty()) found.kind = "Main";
+        return found;
+    }
+    return {};
+}
+
+MemoryRec* ClsCode::Referent(const Found& found, CallArgument** slot) {
+    *slot = nullptr;
+    if (found.kind.empty() || found.kind == "I") {
+        if (found.kind == "I") *slot = &arguments_[static_cast<std::size_t>(found.slot)];
+        return nullptr;
+    }
+    if (found.slot >= 0) *slot = &arguments_[static_cast<std::size_t>(found.slot)];
+    if (found.page == nullptr || found.index < 0 || found.index >= found.page->NumofMemory()) {
+        return nullptr;
+    }
+    return &found.page->memory_[static_cast<std::size_t>(found.index)];
+}
+
+bool ClsCode::ReportReserved(std::string_view name) {
+    if (!IsReservedWord(name)) return false;
+    session_.view().ShowHint(std::string(name) + " is Reserved Word");
+    errorText_ = "代入先が不正";
+    return true;
+}
+
+// A subscript text's value as a 16-bit index; an empty text counts as "0".
+bool ClsCode::EvalSubscript(Evaluator& evaluator, std::string_view text, std::int16_t& index) {
+    if (Trim(text).empty()) text = "0";
+    Complex value;
+    if (!evaluator.EvalSum(text, value)) return false;
+    index = ToInt16(static_cast<long long>(std::nearbyint(value.Re)));
+    return true;
+}
+
+// The flat index of an element; only flat <= Ln is checked, so a subscript
+// past its own bound that still falls inside the array is accepted.
+bool ClsCode::ElementIndex(Evaluator& evaluator, const MemoryRec& rec,
+                           std::span<const std::string_view> subscripts, std::int32_t& flat) {
+    std::int16_t index[2] = {0, 0};
+    for (std::size_t k = 0; k < subscripts.size() && k < 2; ++k) {
+        if (!EvalSubscript(evaluator, subscripts[k], index[k])) return false;
+    }
+    flat = (rec.NI + 1) * index[1] + index[0];
+    if (flat > rec.Ln) return false;
+    if (flat < 0) RaiseFault(FaultCode::SubscriptOutOfRange);
+    return true;
+}
+
+bool ClsCode::ReadVariable(Evaluator& evaluator, std::string_view name,
+                           std::span<const std::string_view> subscripts, Complex& value) {
+    const Found found = AzIsVariableSearch(name);
+    if (found.kind.empty()) return false;
+    // A literal, expression or single element passed as argument is read as
+    // it is, without subscripts.
+    if (found.kind == "I" || found.kind == "E") {
+        value = found.value;
+        return true;
+    }
+    CallArgument* slot = nullptr;
+    const MemoryRec* rec = Referent(found, &slot);
+    if (rec == nullptr) return false;
+    std::int32_t flat = 0;
+    if (!ElementIndex(evaluator, *rec, subscripts, flat)) return false;
+    value = rec->Values[static_cast<std::size_t>(flat)];
+    return true;
+}
+
+bool ClsCode::CallMatrixFunction(std::size_t index, std::span<const std::string_view> arguments,
+                                 Complex& value) {
+    std::vector<ComplexArray> arrays;
+    for (std::string_view name : arguments) {
+        const Found found = AzIsVariableSearch(name);
+        CallArgument* slot = nullptr;
+        const MemoryRec* rec = Referent(found, &slot);
+        if (rec == nullptr) return false;
+        arrays.push_back(ComplexArray{rec->NI, rec->NJ, rec->Values});
+    }
+    std::vector<const ComplexArray*> args;
+    for (const ComplexArray& array : arrays) args.push_back(&array);
+    std::optional<ComplexArray> array;
+    if (!ApplyMatrixFunction(index, args, value, array)) return false;
+    if (array) arrayResult_ = std::move(array);
+    return true;
+}
+
+bool ClsCode::AStateMentDimension(std::span<const std::string_view> items) {
+    try {
+        for (std::string_view item : items) {
+            if (!DeclareItem(item)) return false;
+        }
+    } catch (const RuntimeFault& fault) {
+        errorText_ = fault.description();
+        return false;
+    }
+    return true;
+}
+
+// name | name(a) | name(a,b): a new variable, or the same shape again.
+bool ClsCode::DeclareItem(std::string_view item) {
+    NameWithSubscripts parsed;
+    if (!SplitNameAndSubscripts(item, parsed) || ReportReserved(parsed.name)) return false;
+    Evaluator evaluator(*this);
+    std::int16_t bounds[2] = {0, 0};
+    for (std::size_t k = 0; k < parsed.subscripts.size(); ++k) {
+        if (Trim(parsed.subscripts[k]).empty()) return false;
+        if (!EvalSubscript(evaluator, parsed.subscripts[k], bounds[k]) || bounds[k] < 0) return false;
+    }
+    const auto typ = static_cast<std::int16_t>(parsed.subscripts.size());
+    const bool cs = session_.caseSensitive();
+    for (const CallArgument& slot : arguments_) {
+        if (SameName(slot.Name, parsed.name, cs)) return false;
+    }
+    for (const MemoryRec& rec : memory_) {
+        if (!SameName(rec.Name, parsed.name, cs)) continue;
+        return rec.Typ == typ && rec.NI == bounds[0] && rec.NJ == bounds[1];
+    }
+    AppendVariable(parsed.name, typ, bounds[0], bounds[1]);
+    return true;
+}
+
+}  // namespace lapdesk

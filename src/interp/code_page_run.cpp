@@ -1,0 +1,293 @@
+// Execution: the run loop over a page's analysed lines, dispatching on each
+// line's kind and jumping through the lines that analysis recorded.
+#include <new>
+#include <string>
+
+#include "expr/evaluator.h"
+#include "expr/keywords.h"
+#include "expr/nesting_guard.h"
+#include "expr/text_scan.h"
+#include "expr/vocabulary.h"
+#include "interp/code_page.h"
+#include "interp/interpreter.h"
+#include "interp/run_limits.h"
+#include "interp/text_helpers.h"
+
+namespace lapdesk {
+
+namespace {
+
+// Holds one level of user-function nesting for the length of a page run. Its
+// stack budget is below the evaluator's, so runaway recursion ends here,
+// with one message, rather than as an expression error at every level.
+class CallLevel {
+public:
+    explicit CallLevel(Interpreter& session)
+        : session_(session), ok_(session.EnterCall()), stack_(NestingGuard::kStackBudget * 2 / 3) {}
+    ~CallLevel() { session_.LeaveCall(); }
+    CallLevel(const CallLevel&) = delete;
+    CallLevel& operator=(const CallLevel&) = delete;
+    bool ok() const { return ok_ && stack_.ok(); }
+
+private:
+    Interpreter& session_;
+    bool ok_;
+    NestingGuard stack_;
+};
+
+// True when the expression is one matrix function call as a whole, whose
+// array result is then stored into the target.
+bool IsWholeMatrixCall(std::string_view expression, std::size_t& row) {
+    expression = Trim(expression);
+    const auto found = FindMatrixFunction(expression);
+    if (!found) return false;
+    const std::size_t open = GetVocabulary().matrixFunctions[*found].name.size() - 1;
+    if (!BracketClosesAtEnd(expression, open)) return false;
+    row = *found;
+    return true;
+}
+
+}  // namespace
+
+bool ClsCode::APc02CodeExecute(double& re, double& im) {
+    const bool outermost = !session_.Running();
+    CallLevel level(session_);
+    valueArea_ = {};
+    std::string fault;
+    Flow flow = Flow::Fail;
+    try {
+        if (!level.ok()) throw CallsTooDeep{};
+        if (!analized_ && !APc01CodeAnalize()) return false;
+        session_.view().ShowPageIndex(pageIndex_);
+        std::int16_t line = 0;
+        flow = RunLoop(line, 0, Sub16(LineNum(), 1));
+    } catch (const RuntimeFault& error) {
+        fault = error.description();
+    } catch (const CallsTooDeep&) {
+        if (!outermost) throw;
+        fault = RuntimeFault(FaultCode::StackSpace).description();
+    } catch (const std::bad_alloc&) {
+        fault = "メモリが不足しています。";
+    }
+    if (!fault.empty()) {
+        session_.view().Errmessage("実行時異常終了" + std::string(kCrLf) + fault);
+        return false;
+    }
+    re = valueArea_.Re;
+    im = valueArea_.Im;
+    return flow != Flow::Fail;
+}
+
+ClsCode::Flow ClsCode::RunLoop(std::int16_t& line, std::int16_t first, std::int16_t last) {
+    for (line = first; line >= first && line <= last; line = Add16(line, 1)) {
+        if (session_.view().StopRequested()) return Flow::Fail;
+        ShowProgress(line);
+        const Flow flow = Dispatch(line);
+        if (flow != Flow::Normal) return flow;
+    }
+    return Flow::Normal;
+}
+
+void ClsCode::ShowProgress(std::int16_t line) {
+    InterpreterView& view = session_.view();
+    currentLine_ = line;
+    view.ShowLineIndex(line);
+    if (view.ProgramListVisible()) view.SelectProgramListEntry(Line(line).LnNo);
+    view.ProcessEvents();
+}
+
+ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
+    const CodeLine current = Line(line);
+    const auto index = static_cast<std::size_t>(current.CodeIndex);
+    errorText_.clear();
+    bool ok = true;
+    Evaluator evaluator(*this);
+    switch (current.Kind) {
+        case kw::End:
+        case kw::ExitFunction: return Flow::End;
+        case kw::Call: {
+            Complex ignored;
+            ok = RunCall(calls_[index], ignored);
+            break;
+        }
+        case kw::For: ok = RunFor(line, false); break;
+        case kw::Next: ok = RunFor(line, true); break;
+        case kw::ExitFor: line = fors_[index].NextLine; break;
+        case kw::Do: ok = RunDo(line, false); break;
+        case kw::Loop: ok = RunDo(line, true); break;
+        case kw::ExitDo: line = dos_[index].LoopLine; break;
+        case kw::If:
+        case kw::Else:
+        case kw::ElseIf: {
+            const IfBlock& block = ifs_[index];
+            const Flow flow = RunBranch(line, block.Boundaries, block.Conditions, current.Link);
+            if (flow == Flow::Fail) ok = false;
+            if (flow == Flow::End) return flow;
+            break;
+        }
+        case kw::Case:
+        case kw::CaseElse: {
+            const SelectBlock& block = selects_[index];
+            const Flow flow = RunBranch(line, block.Boundaries, block.Conditions, current.Link);
+            if (flow == Flow::Fail) ok = false;
+            if (flow == Flow::End) return flow;
+            break;
+        }
+        case kw::Return: {
+            // The value starts at the eighth character, after "Return ".
+            std::string_view text = current.Text.size() > 7 ? std::string_view(current.Text).substr(7) : "";
+            if (Trim(text).empty()) return Flow::End;
+            text = TrimLeft(text);
+            if (evaluator.EvalSum(text, valueArea_)) return Flow::End;
+            ok = false;
+            break;
+        }
+        case kw::BareCall: {
+            std::string_view text = current.Text;
+            ok = evaluator.EvalSum(text, valueArea_);
+            break;
+        }
+        case kw::Assignment: {
+            Complex assigned;
+            ok = Assign(statements_[index], assigned);
+            break;
+        }
+        default: break;
+    }
+    if (ok) return Flow::Normal;
+    if (errorText_.empty()) errorText_ = evaluator.failure();
+    ReportRunError(line, errorText_);
+    return Flow::Fail;
+}
+
+void ClsCode::ReportRunError(std::int16_t line, std::string_view reason) {
+    if (session_.view().StopRequested()) return;  // a stop is not an error
+    const std::string number = pageName_ + ": " + std::to_string(line + 1);
+    std::string message = reason.starts_with("行目") ? number + std::string(reason)
+                                                      : number + "行目実行エラー";
+    session_.view().Errmessage(message + std::string(kCrLf) + Line(line).Text);
+}
+
+// For: the counter lives in the block, so assignments to the loop variable
+// inside the body do not change the number of passes.
+bool ClsCode::RunFor(std::int16_t& line, bool isNext) {
+    ForBlock& block = fors_[static_cast<std::size_t>(Line(line).CodeIndex)];
+    Complex& variable = Memory(block.VariableIndex).Values[0];
+    if (isNext) {
+        block.Counter = Checked(block.Counter + block.StepValue);
+        variable = {block.Counter, 0.0};
+        const bool again = block.StepValue > 0 ? block.Counter <= block.EndValue
+                                               : block.Counter >= block.EndValue;
+        if (again) line = block.ForLine;
+        return true;
+    }
+    Evaluator evaluator(*this);
+    Complex start, end, step;
+    std::string_view startText = block.StartText, endText = block.EndText, stepText = block.StepText;
+    if (!evaluator.EvalSum(startText, start) || !evaluator.EvalSum(endText, end) ||
+        !evaluator.EvalSum(stepText, step)) {
+        errorText_ = evaluator.failure();
+        return false;
+    }
+    block.Counter = start.Re;
+    block.EndValue = end.Re;
+    block.StepValue = step.Re;
+    variable = {start.Re, 0.0};
+    const bool skip = step.Re > 0 ? start.Re > end.Re : start.Re < end.Re;
+    if (skip) line = block.NextLine;
+    return true;
+}
+
+bool ClsCode::RunDo(std::int16_t& line, bool isLoop) {
+    const DoBlock& block = dos_[static_cast<std::size_t>(Line(line).CodeIndex)];
+    const std::string& word = isLoop ? block.LoopWord : block.DoWord;
+    bool truth = false;
+    if (!word.empty() && !Condition(isLoop ? block.LoopCondition : block.DoCondition, truth)) {
+        return false;
+    }
+    const bool whileHolds = word.empty() || (word == "W") == truth;
+    if (!isLoop && !whileHolds) line = block.LoopLine;
+    if (isLoop && whileHolds) line = Sub16(block.DoLine, 1);
+    return true;
+}
+
+// Runs branch `branch` when its condition holds and then leaves the block;
+// otherwise moves to the next boundary line so its condition is tried next.
+ClsCode::Flow ClsCode::RunBranch(std::int16_t& line, const std::vector<std::int16_t>& boundaries,
+                                 const std::vector<std::string>& conditions, std::int16_t branch) {
+    const auto k = static_cast<std::size_t>(branch);
+    bool taken = conditions[k] == kUnconditional;
+    if (!taken && !Condition(conditions[k], taken)) return Flow::Fail;
+    if (!taken) {
+        line = Sub16(boundaries[k], 1);
+        return Flow::Normal;
+    }
+    std::int16_t inner = 0;
+    const Flow flow = RunLoop(inner, Add16(line, 1), Sub16(boundaries[k], 1));
+    if (flow != Flow::Normal) return flow;
+    // Ran to the end of the branch: resume behind the block. Left it by a
+    // jump (Exit For, Exit Do): resume where the jump pointed.
+    line = inner == boundaries[k] ? boundaries.back() : Sub16(inner, 1);
+    return Flow::Normal;
+}
+
+bool ClsCode::Condition(std::string_view text, bool& truth) {
+    Evaluator evaluator(*this);
+    if (evaluator.EvalCondition(text, truth)) return true;
+    errorText_ = evaluator.failure();
+    return false;
+}
+
+bool ClsCode::Assign(const StatementCode& code, Complex& assigned) {
+    Evaluator evaluator(*this);
+    arrayResult_.reset();
+    std::string_view expression = code.Expression;
+    if (!evaluator.EvalSum(expression, assigned)) {
+        errorText_ = evaluator.failure();
+        return false;
+    }
+    if (code.TargetKind == "R") {
+        valueArea_ = assigned;
+        return true;
+    }
+    Found target{code.TargetKind, this, code.TargetIndex, -1, 0, 0, 0, {}};
+    if (code.TargetKind == "G") target.page = &session_.ImmediatePage();
+    if (code.TargetKind == "A") {
+        CallArgument& slot = arguments_.at(static_cast<std::size_t>(code.TargetIndex));
+        if (slot.IsValue()) {
+            slot.Value = assigned;
+            return true;
+        }
+        target = {"A", slot.Page, slot.Index, code.TargetIndex, 0, 0, 0, {}};
+    }
+    CallArgument* slot = nullptr;
+    MemoryRec* rec = Referent(target, &slot);
+    if (rec == nullptr) return false;
+    std::size_t row = 0;
+    if (arrayResult_ && code.SubscriptCount == 0 && slot == nullptr &&
+        IsWholeMatrixCall(code.Expression, row)) {
+        // The target takes the result's dimensions and values.
+        const ComplexArray& array = *arrayResult_;
+        rec->Typ = (row == 2 || row == 6) ? 2 : 1;
+        rec->NI = ToInt16(array.NI);
+        rec->NJ = ToInt16(array.NJ);
+        rec->Ln = Sub16(Mul16(Add16(rec->NI, 1), Add16(rec->NJ, 1)), 1);
+        rec->Values = array.Values;
+        return true;
+    }
+    std::int32_t flat = 0;
+    if (slot != nullptr && slot->Flat >= 0) {
+        flat = slot->Flat;
+    } else {
+        const std::string_view subscripts[] = {code.Subscript1, code.Subscript2};
+        const std::span<const std::string_view> used(subscripts, static_cast<std::size_t>(code.SubscriptCount));
+        if (!ElementIndex(evaluator, *rec, used, flat)) {
+            if (errorText_.empty()) errorText_ = evaluator.failure();
+            return false;
+        }
+    }
+    rec->Values[static_cast<std::size_t>(flat)] = assigned;
+    return true;
+}
+
+}  // namespace lapdesk

@@ -1,0 +1,78 @@
+// One calculator session: the immediate page with the global variables, the
+// program pages built from the program text, the language options, and the
+// driver that cuts, analyses and runs the program.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "interp/code_page.h"
+#include "interp/interpreter_view.h"
+
+namespace lapdesk {
+
+// The outcome of one immediate line.
+struct ImmediateResult {
+    bool ok = false;
+    Complex value;
+};
+
+class Interpreter {
+public:
+    explicit Interpreter(InterpreterView& view);
+    ~Interpreter();
+    Interpreter(const Interpreter&) = delete;
+    Interpreter& operator=(const Interpreter&) = delete;
+
+    InterpreterView& view() { return *view_; }
+    void SetView(InterpreterView& view) { view_ = &view; }
+
+    // Variable names distinguish letter case (on at start).
+    bool caseSensitive() const { return caseSensitive_; }
+    void SetCaseSensitive(bool on) { caseSensitive_ = on; }
+
+    // The immediate page (created on first use) and the program pages.
+    ClsCode& ImmediatePage();
+    void RegisterGlobalPage(ClsCode& page);
+    std::int16_t PageCount() const;
+    ClsCode& Page(std::int16_t index);
+    ClsCode* FindPage(std::string_view name);
+
+    // The program text the driver cuts; a changed text is analysed again.
+    void SetProgramText(std::string text);
+    const std::string& ProgramText() const { return programText_; }
+    bool ProgramAnalysed() const { return programAnalysed_; }
+    void ClearProgramAnalysed() { programAnalysed_ = false; }
+
+    // Analyses (where needed) and runs "Main"; the status goes to kai.
+    bool RunProgram(double& re, double& im, bool eraseGlobals, bool run);
+    bool CutProgram();
+    void EraseGlobals();
+
+    // The immediate line: a declaration ("global "/"Dim "), an assignment at
+    // the first "=" outside brackets, or an expression.
+    ImmediateResult ImmediateLine(std::string_view line);
+
+    // Nesting of user-function calls, bounded so runaway recursion ends
+    // with a fault instead of exhausting the stack.
+    bool EnterCall();
+    void LeaveCall() { --callDepth_; }
+    bool Running() const { return callDepth_ > 0; }
+
+private:
+    bool BuildPages(const std::vector<std::string>& statements);
+
+    InterpreterView* view_;
+    bool caseSensitive_ = true;
+    std::unique_ptr<ClsCode> immediateOwned_;
+    ClsCode* immediate_ = nullptr;
+    std::vector<std::unique_ptr<ClsCode>> pages_;
+    std::string programText_;
+    bool programAnalysed_ = false;
+    int callDepth_ = 0;
+};
+
+}  // namespace lapdesk

@@ -1,0 +1,111 @@
+// The records a code page keeps: its variables, its stored statements, the
+// tables analysis builds, and the arguments of calls.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "values/complex.h"
+
+namespace lapdesk {
+
+class ClsCode;
+
+// One variable: a scalar (Typ 0), vector (1) or matrix (2) of complex values.
+// Element (i, j) is at (NI + 1) * j + i.
+struct MemoryRec {
+    std::string Name;
+    std::int16_t Typ = 0;
+    std::int16_t NI = 0;
+    std::int16_t NJ = 0;
+    std::int16_t Ln = 0;
+    std::vector<Complex> Values;
+};
+
+// One stored statement and what analysis found out about it.
+struct CodeLine {
+    std::string Text;
+    std::int16_t LnNo = 0;        // entry of the program list to highlight
+    std::int16_t Kind = -1;       // statement code; 100 assignment, 22 bare call
+    std::int16_t CodeIndex = -999;  // entry in the table of its kind
+    std::int16_t Link = -999;     // branch number inside If / Select Case
+};
+
+// An analysed assignment. Target kinds: "M" page memory, "G" global memory,
+// "A" an argument of the page, "R" the page's own result.
+struct StatementCode {
+    std::string TargetKind;
+    std::int16_t TargetIndex = 0;
+    std::int16_t SubscriptCount = 0;
+    std::string Subscript1;
+    std::string Subscript2;
+    std::string Expression;
+};
+
+struct ForBlock {
+    std::int16_t ForLine = 0;
+    std::int16_t NextLine = -1;
+    double Counter = 0.0;
+    double EndValue = 0.0;
+    double StepValue = 0.0;
+    std::int16_t VariableIndex = 0;
+    std::string StartText;
+    std::string EndText;
+    std::string StepText;
+};
+
+struct DoBlock {
+    std::int16_t DoLine = 0;
+    std::int16_t LoopLine = -1;
+    std::string DoWord;  // "W", "U" or empty
+    std::string DoCondition;
+    std::string LoopWord;
+    std::string LoopCondition;
+};
+
+// If and Select Case: the later boundary lines of the block (each ElseIf,
+// Else / Case, Case Else, and last the closing line) and one condition per
+// branch, "..." for the unconditional one.
+struct IfBlock {
+    std::vector<std::int16_t> Boundaries;
+    std::vector<std::string> Conditions;
+};
+
+struct SelectBlock {
+    std::string Selector;
+    std::vector<std::int16_t> Boundaries;
+    std::vector<std::string> Conditions;
+};
+
+inline constexpr std::string_view kUnconditional = "...";
+
+// One argument of a call, and one parameter slot of a function page (the
+// same layout, so a call's argument is copied into the callee's slot).
+// Kinds: "M" a variable of the caller's memory, "A" a parameter of the
+// caller, "G" a global, "I" a number literal, "S" any other expression.
+struct CallArgument {
+    std::string Name;  // the parameter's name (slot) or the argument text
+    std::string Kind;
+    ClsCode* Page = nullptr;  // owner of the variable referred to
+    std::int16_t Index = -1;  // the variable's index there
+    std::int16_t SubscriptCount = 0;
+    std::string Subscript1;
+    std::string Subscript2;
+    std::int32_t Flat = -1;  // the element passed, once its subscripts are evaluated
+    std::int16_t NI = 0;
+    std::int16_t NJ = 0;
+    std::int16_t Ln = 0;
+    Complex Value;
+    std::string Text;
+
+    bool IsValue() const { return Kind == "I" || Kind == "S"; }
+};
+
+struct CallEntry {
+    ClsCode* Target = nullptr;
+    std::int16_t ArgumentCount = 0;
+    std::vector<CallArgument> Arguments;
+};
+
+}  // namespace lapdesk
