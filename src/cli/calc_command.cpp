@@ -23,7 +23,7 @@ struct CalcOptions {
 // Runs one line; prints the value or "Error", and the reason on stderr.
 bool RunLine(std::string line, Interpreter& session, ConsoleView& view) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
-    view.ResetStop();
+    view.ClearStopRequest();
     ImmediateResult result = session.ImmediateLine(line);
     if (!result.ok) {
         std::cout << "Error\n";

@@ -11,5 +11,7 @@ namespace lapdesk::cli {
 
 void AddCalcCommand(CLI::App& app, int& exitStatus);
 void AddRunCommand(CLI::App& app, int& exitStatus);
+void AddReadCommand(CLI::App& app, int& exitStatus);
+void AddInvertCommand(CLI::App& app, int& exitStatus);
 
 }  // namespace lapdesk::cli

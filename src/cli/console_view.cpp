@@ -1,7 +1,11 @@
 #include "console_view.h"
 
+#include <unistd.h>
+
+#include <algorithm>
 #include <csignal>
 #include <iostream>
+#include <string>
 
 namespace lapdesk::cli {
 
@@ -13,7 +17,10 @@ extern "C" void OnInterrupt(int) { interrupted = 1; }
 
 }  // namespace
 
-ConsoleView::ConsoleView(bool rounded) : rounded_(rounded) { std::signal(SIGINT, OnInterrupt); }
+ConsoleView::ConsoleView(bool rounded)
+    : rounded_(rounded), meterOnTerminal_(isatty(STDERR_FILENO) != 0) {
+    std::signal(SIGINT, OnInterrupt);
+}
 
 ConsoleView::~ConsoleView() { std::signal(SIGINT, SIG_DFL); }
 
@@ -33,6 +40,26 @@ void ConsoleView::ShowHint(const std::string& text) { std::cerr << text << '\n';
 
 bool ConsoleView::StopRequested() const { return interrupted != 0; }
 
-void ConsoleView::ResetStop() { interrupted = 0; }
+void ConsoleView::ClearStopRequest() { interrupted = 0; }
+
+}  // namespace lapdesk::cli
+
+namespace lapdesk::cli {
+
+void ConsoleView::CalProcMeter(double value, bool reset) {
+    if (!meterOnTerminal_) return;
+    if (reset) {
+        meterWidth_ = value;
+        return;
+    }
+    if (!(meterWidth_ > 0.0) || !(value >= 0.0)) return;
+    constexpr int kBarLength = 40;
+    const double done = std::min(value / meterWidth_, 1.0);
+    const int filled = static_cast<int>(done * kBarLength);
+    std::cerr << "\r[" << std::string(filled, '#') << std::string(kBarLength - filled, ' ') << "] "
+              << static_cast<int>(done * 100) << '%';
+    if (value > meterWidth_) std::cerr << '\n';
+    std::cerr.flush();
+}
 
 }  // namespace lapdesk::cli

@@ -1,5 +1,6 @@
 // The interpreter's view on a terminal: messages go to standard error at
-// once, the answer field is kept for the caller, and Ctrl+C asks a running
+// once, the answer field is kept for the caller, the progress meter is a bar
+// on standard error when that is a terminal, and Ctrl+C asks a running
 // program to stop.
 #pragma once
 
@@ -32,16 +33,17 @@ public:
     void SetPhaseColour(std::uint32_t) override {}
     bool RoundedDisplay() const override { return rounded_; }
     void ClearMemoryDisplay() override {}
-    void CalProcMeter(double, bool) override {}
+    void CalProcMeter(double value, bool reset) override;
     bool StopRequested() const override;
     void ProcessEvents() override {}
 
-    // Clears a stop request so the next run starts afresh.
-    void ResetStop();
+    void ClearStopRequest() override;
 
 private:
     bool rounded_;
     bool sawMessage_ = false;
+    bool meterOnTerminal_;
+    double meterWidth_ = 0.0;
     std::string kai_;
 };
 

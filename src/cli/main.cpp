@@ -9,6 +9,8 @@ int main(int argc, char** argv) {
     int exitStatus = 0;
     lapdesk::cli::AddCalcCommand(app, exitStatus);
     lapdesk::cli::AddRunCommand(app, exitStatus);
+    lapdesk::cli::AddReadCommand(app, exitStatus);
+    lapdesk::cli::AddInvertCommand(app, exitStatus);
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp& e) {

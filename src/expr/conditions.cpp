@@ -99,6 +99,17 @@ bool Apply(std::string_view op, std::vector<Operand>& operands) {
 
 constexpr std::string_view kTop = "@Top@";
 
+// The text inside the bracket pairs that enclose all of it: "((a) .Or. b)"
+// gives "(a) .Or. b". Trying ((c)) as an expression fails exactly as trying
+// c does, so an operand is tried once, not once per bracket pair.
+std::string_view WithoutEnclosingBrackets(std::string_view text) {
+    text = Trim(text);
+    while (text.size() >= 2 && BracketClosesAtEnd(text, 0)) {
+        text = Trim(text.substr(1, text.size() - 2));
+    }
+    return text;
+}
+
 }  // namespace
 
 std::string ReplaceSynonyms(std::string_view condition) {
@@ -125,7 +136,7 @@ std::string ReplaceSynonyms(std::string_view condition) {
 // wait on a stack above the "@Top@" marker until a weaker one arrives.
 bool Evaluator::EvalCondition(std::string_view text, bool& truth) {
     NestingGuard guard;
-    if (!guard.ok()) return Fail("式の入れ子が深すぎます");
+    if (!guard.Admits(BracketDepth(text))) return Fail("式の入れ子が深すぎます");
     const std::string s = ReplaceSynonyms(text);
     std::vector<Token> tokens;
     if (!Tokenize(s, tokens)) return Fail("括弧が対応していません");
@@ -136,15 +147,15 @@ bool Evaluator::EvalCondition(std::string_view text, bool& truth) {
         if (!token.isOperator) {
             if (!expectOperand) return false;
             Operand operand{};
-            std::string_view expression = token.text;
+            const std::string_view inside = WithoutEnclosingBrackets(token.text);
+            std::string_view expression = inside;
             const std::string failureBefore = failure_;
             if (!EvalSum(expression, operand.value)) {
                 // A bracketed operand that is no expression is a condition.
-                const std::string_view t = token.text;
-                if (t.front() != '(' || t.back() != ')') return false;
+                if (inside.size() == token.text.size()) return false;
                 failure_ = failureBefore;
                 bool inner = false;
-                if (!EvalCondition(t.substr(1, t.size() - 2), inner)) return false;
+                if (!EvalCondition(inside, inner)) return false;
                 operand.value = {inner ? 1.0 : 0.0, 0.0};
             }
             operand.truth = operand.value.Re != 0.0;

@@ -12,6 +12,9 @@ namespace lapdesk {
 
 namespace {
 
+// Every bracket level rescans its text, so the depth of one expression is
+// bounded well below the guard's own limit: work stays linear in practice.
+constexpr std::size_t kMaxBracketDepth = 256;
 constexpr std::string_view kTooDeep = "式の入れ子が深すぎます";
 constexpr std::string_view kBrackets = "括弧が対応していません";
 
@@ -25,7 +28,8 @@ bool Evaluator::Fail(std::string reason) {
 // sum -> [+|-] term { (+|-) term }
 bool Evaluator::EvalSum(std::string_view& text, Complex& value) {
     NestingGuard guard;
-    if (!guard.ok()) return Fail(std::string(kTooDeep));
+    const std::size_t depth = BracketDepth(text);
+    if (depth > kMaxBracketDepth || !guard.Admits(depth)) return Fail(std::string(kTooDeep));
     text = Trim(text);
     if (text.empty()) return false;
     char op = '+';
@@ -87,8 +91,16 @@ bool Evaluator::EvalPrimary(std::string_view& text, Complex& value) {
     text = Trim(text);
     if (text.empty()) return false;
     if (text.back() == ')') {
-        if (const auto row = FindScalarFunction(text)) return EvalScalarFunction(*row, text, value);
-        if (const auto row = FindMatrixFunction(text)) return EvalMatrixFunction(*row, text, value);
+        std::optional<bool> called;
+        if (const auto row = FindScalarFunction(text)) {
+            called = EvalScalarFunction(*row, text, value);
+        } else if (const auto row = FindMatrixFunction(text)) {
+            called = EvalMatrixFunction(*row, text, value);
+        }
+        if (called) {
+            if (*called) text = {};
+            return *called;
+        }
         if (text.front() != '(' && scope_.CallUserFunction(*this, text, value)) {
             text = {};
             return true;

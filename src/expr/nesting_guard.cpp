@@ -30,4 +30,8 @@ NestingGuard::NestingGuard(std::size_t stackBudget) {
 
 NestingGuard::~NestingGuard() { --levels; }
 
+bool NestingGuard::Admits(std::size_t depth) const {
+    return ok_ && depth <= static_cast<std::size_t>(kMaxLevels - levels);
+}
+
 }  // namespace lapdesk

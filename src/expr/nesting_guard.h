@@ -20,6 +20,10 @@ public:
     // False when this level is one too many: the caller must fail.
     bool ok() const { return ok_; }
 
+    // False when this level, or `depth` further levels below it, would be
+    // too many: a text nested that deep can fail before any work on it.
+    bool Admits(std::size_t depth) const;
+
 private:
     bool ok_;
 };

@@ -1,5 +1,6 @@
 #include "expr/plain_scope.h"
 
+#include <cmath>
 #include <vector>
 
 #include "expr/evaluator.h"
@@ -21,14 +22,17 @@ void PlainScope::SetArray(const std::string& name, ComplexArray array) {
 bool PlainScope::ReadVariable(Evaluator& evaluator, std::string_view name,
                               std::span<const std::string_view> subscripts, Complex& value) {
     const auto found = arrays_.find(name);
-    if (found == arrays_.end()) return false;
+    if (found == arrays_.end() || subscripts.size() > 2) return false;
     const ComplexArray& array = found->second;
-    int index[2] = {0, 0};
+    // As in the interpreter's memory, only the flat index is checked: A(2,0)
+    // of a 2x2 array reaches element (0,1).
+    long long index[2] = {0, 0};
     for (std::size_t k = 0; k < subscripts.size(); ++k) {
         std::string_view text = Trim(subscripts[k]).empty() ? "0" : subscripts[k];
         Complex subscript;
         if (!evaluator.EvalSum(text, subscript)) return false;
-        index[k] = static_cast<int>(subscript.Re);
+        if (!(std::fabs(subscript.Re) < 2147483648.0)) return false;  // no int holds it
+        index[k] = static_cast<long long>(subscript.Re);
     }
     const long long flat = static_cast<long long>(array.NI + 1) * index[1] + index[0];
     if (flat < 0 || flat >= static_cast<long long>(array.Values.size())) return false;

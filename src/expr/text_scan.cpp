@@ -1,5 +1,7 @@
 #include "expr/text_scan.h"
 
+#include <algorithm>
+
 namespace lapdesk {
 
 namespace {
@@ -95,6 +97,16 @@ bool SplitTopLevel(std::string_view text, char separator, std::vector<std::strin
     if (depth != 0) return false;
     pieces.push_back(text.substr(start));
     return true;
+}
+
+std::size_t BracketDepth(std::string_view text) {
+    std::size_t depth = 0;
+    std::size_t deepest = 0;
+    for (char c : text) {
+        if (c == '(') deepest = std::max(deepest, ++depth);
+        if (c == ')' && depth > 0) --depth;
+    }
+    return deepest;
 }
 
 bool BracketClosesAtEnd(std::string_view text, std::size_t open) {

@@ -25,6 +25,9 @@ bool SplitOperand(std::string_view& text, std::string_view ops, std::string_view
 // Cuts at every `separator` outside brackets; false on unbalanced brackets.
 bool SplitTopLevel(std::string_view text, char separator, std::vector<std::string_view>& pieces);
 
+// The deepest bracket nesting in the text (0 without brackets).
+std::size_t BracketDepth(std::string_view text);
+
 // True when the "(" at `open` is closed by the text's last character.
 bool BracketClosesAtEnd(std::string_view text, std::size_t open);
 

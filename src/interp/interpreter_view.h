@@ -36,6 +36,13 @@ public:
     virtual void CalProcMeter(double value, bool reset) = 0;
     virtual bool StopRequested() const = 0;
     virtual void ProcessEvents() = 0;
+
+    // Sets the stop request back to false (the transform's data creation
+    // clears it before it starts and after it has honoured it).
+    virtual void ClearStopRequest() {}
+    // Switches the window to the view it shows while the transform runs the
+    // program point by point, and back.
+    virtual void ShowTransformProgress(bool /*on*/) {}
 };
 
 }  // namespace lapdesk

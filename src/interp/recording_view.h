@@ -36,6 +36,7 @@ public:
     void CalProcMeter(double, bool) override {}
     bool StopRequested() const override { return stopRequested; }
     void ProcessEvents() override {}
+    void ClearStopRequest() override { stopRequested = false; }
 };
 
 }  // namespace lapdesk

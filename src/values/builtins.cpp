@@ -61,8 +61,11 @@ Complex Atan(const Complex& a) {
 
 Complex Tanh(const Complex& a) {
     if (a.Im == 0.0) {
-        const double e = Checked(std::exp(Checked(-2.0 * a.Re)));
-        return {Checked((1.0 - e) / (1.0 + e)), 0.0};
+        // Taken on |x| and signed after, so a large negative x gives -1
+        // instead of overflowing e^(-2x).
+        const double e = Checked(std::exp(Checked(-2.0 * std::fabs(a.Re))));
+        const double t = Checked((1.0 - e) / (1.0 + e));
+        return {a.Re < 0.0 ? -t : t, 0.0};
     }
     return CplDiv(ComplexSinh(a), ComplexCosh(a));
 }

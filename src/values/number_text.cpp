@@ -1,5 +1,6 @@
 #include "values/number_text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <system_error>
@@ -18,24 +19,45 @@ std::string_view TrimBlanks(std::string_view s) {
 }
 
 // Checks the shape [sign] digits [. digits] [E [sign] digits] with at least
-// one mantissa digit; reports whether the exponent is negative.
-bool IsRealShape(std::string_view s, bool& negativeExponent) {
+// one mantissa digit. `order` gets the power of ten of the first significant
+// digit (clamped), which tells a number too large for a double from one too
+// small: 1000E-330 underflows and 0.001E400 overflows, whatever the sign of
+// the exponent says.
+bool IsRealShape(std::string_view s, long long& order) {
+    constexpr long long kClamp = 1'000'000'000;
     std::size_t i = 0;
     if (i < s.size() && (s[i] == '+' || s[i] == '-')) ++i;
     std::size_t digits = 0;
-    while (i < s.size() && IsDigit(s[i])) ++i, ++digits;
+    bool significant = false;
+    long long integerPlaces = 0;  // digits before the point from the first significant one
+    long long leadingZeros = 0;   // zeros after the point before the first significant digit
+    while (i < s.size() && IsDigit(s[i])) {
+        significant = significant || s[i] != '0';
+        if (significant) integerPlaces = std::min(integerPlaces + 1, kClamp);
+        ++i, ++digits;
+    }
     if (i < s.size() && s[i] == '.') {
         ++i;
-        while (i < s.size() && IsDigit(s[i])) ++i, ++digits;
+        while (i < s.size() && IsDigit(s[i])) {
+            if (!significant && s[i] == '0') leadingZeros = std::min(leadingZeros + 1, kClamp);
+            significant = significant || s[i] != '0';
+            ++i, ++digits;
+        }
     }
     if (digits == 0) return false;
-    negativeExponent = false;
+    order = integerPlaces > 0 ? integerPlaces - 1 : -leadingZeros - 1;
     if (i < s.size() && (s[i] == 'E' || s[i] == 'e')) {
         ++i;
-        if (i < s.size() && (s[i] == '+' || s[i] == '-')) negativeExponent = s[i++] == '-';
+        bool negative = false;
+        if (i < s.size() && (s[i] == '+' || s[i] == '-')) negative = s[i++] == '-';
+        long long exponent = 0;
         std::size_t expDigits = 0;
-        while (i < s.size() && IsDigit(s[i])) ++i, ++expDigits;
+        while (i < s.size() && IsDigit(s[i])) {
+            exponent = std::min(exponent * 10 + (s[i] - '0'), kClamp);
+            ++i, ++expDigits;
+        }
         if (expDigits == 0) return false;
+        order += negative ? -exponent : exponent;
     }
     return i == s.size();
 }
@@ -52,15 +74,15 @@ std::string UpperExponent(const char* begin, const char* end) {
 
 bool TextToReal(std::string_view text, double& x) {
     std::string_view s = TrimBlanks(text);
-    bool negativeExponent = false;
-    if (s.empty() || s.front() == '(' || !IsRealShape(s, negativeExponent)) return false;
+    long long order = 0;
+    if (s.empty() || s.front() == '(' || !IsRealShape(s, order)) return false;
     const bool negative = s.front() == '-';
     if (s.front() == '+' || s.front() == '-') s.remove_prefix(1);
     double value = 0.0;
     const auto [end, ec] = std::from_chars(s.data(), s.data() + s.size(), value);
     if (ec == std::errc::result_out_of_range) {
-        if (!negativeExponent) return false;  // too large for a double
-        value = 0.0;                          // too small: underflows to zero
+        if (order >= 0) return false;  // too large for a double
+        value = 0.0;                   // too small: underflows to zero
     } else if (ec != std::errc() || end != s.data() + s.size()) {
         return false;
     }

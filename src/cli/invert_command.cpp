@@ -1,0 +1,70 @@
+// lapdesk-cli invert: makes the transform's data by running a program for
+// every sample point, as the transform window's "実行" does, and inverts it.
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <memory>
+#include <string>
+
+#include "commands.h"
+#include "console_view.h"
+#include "fileio/text_file.h"
+#include "interp/interpreter.h"
+#include "transform/program/program_sampling.h"
+#include "transform/transform_driver.h"
+#include "transform_output.h"
+
+namespace lapdesk::cli {
+
+namespace {
+
+struct InvertOptions {
+    std::string file;
+    std::string n = "256";
+    std::string t = "5";
+    std::string gamma0 = "5";
+    bool noHanning = false;
+    TransformOutputOptions outputs;
+};
+
+int RunInvert(const InvertOptions& options) {
+    TransformDriver driver;
+    if (!driver.SetWordNumber(options.n) || !driver.SetTend(options.t) ||
+        !driver.SetGanma(options.gamma0)) {
+        std::cerr << "lapdesk-cli invert: N must be one of 128, 256, ..., 4096, and T and gamma0 "
+                     "numbers greater than 0\n";
+        return 2;
+    }
+    driver.SetHaning(!options.noHanning);
+    const TextResult program = ReadText(options.file);
+    if (!program.ok) {
+        std::cerr << options.file << ": " << program.reason << '\n';
+        return 2;
+    }
+    ReportStatusOnStderr(driver);
+    ConsoleView view(false);
+    Interpreter session(view);
+    session.SetProgramText(program.text);
+    if (!TesmorDataSet(driver, session)) return 1;
+    return WriteTransformOutputs(driver, program.text, options.outputs, "invert");
+}
+
+}  // namespace
+
+void AddInvertCommand(CLI::App& app, int& exitStatus) {
+    auto options = std::make_shared<InvertOptions>();
+    CLI::App* invert = app.add_subcommand(
+        "invert", "Sample F(p) by running a program for every point and invert it to f(t)");
+    invert->add_option("FILE", options->file, "The program that returns F(p) (cp932 or UTF-8)")
+        ->required();
+    invert->add_option("-N", options->n, "Number of time points: 128, 256, ..., 4096")
+        ->capture_default_str();
+    invert->add_option("-T", options->t, "Record length: f is computed for 0 <= t < T")
+        ->capture_default_str();
+    invert->add_option("-g,--gamma0", options->gamma0, "Damping over one record, gamma*T")
+        ->capture_default_str();
+    invert->add_flag("--no-hanning", options->noHanning, "Do not taper the samples");
+    options->outputs.AddTo(*invert);
+    invert->callback([options, &exitStatus] { exitStatus = RunInvert(*options); });
+}
+
+}  // namespace lapdesk::cli

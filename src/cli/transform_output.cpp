@@ -1,0 +1,80 @@
+#include "transform_output.h"
+
+#include <CLI/CLI.hpp>
+#include <charconv>
+#include <iostream>
+
+#include "fileio/text_file.h"
+#include "transform/ldt_file.h"
+#include "transform/transform_driver.h"
+
+namespace lapdesk::cli {
+
+namespace {
+
+std::string SeventeenDigits(double x) {
+    char buffer[32];
+    const auto result =
+        std::to_chars(buffer, buffer + sizeof buffer, x, std::chars_format::general, 17);
+    return std::string(buffer, result.ptr);
+}
+
+// t, y, re, im for k = 0..N-1 with 17 significant digits, LF line ends.
+std::string CsvTable(const TransformDriver& driver) {
+    const Conditions c = driver.GetConditions();
+    const SampleStore& store = driver.Store();
+    std::string text = "t,y,re,im\n";
+    for (int k = 0; k < c.N; ++k) {
+        text += SeventeenDigits(c.TimeAt(k)) + "," + SeventeenDigits(store[kResult].Values[k]) +
+                "," + SeventeenDigits(store[kSampleRe].Values[k]) + "," +
+                SeventeenDigits(store[kSampleIm].Values[k]) + "\n";
+    }
+    return text;
+}
+
+// The file text with the terminal's line ends.
+std::string WithLf(std::string_view text) {
+    std::string out;
+    out.reserve(text.size());
+    for (const char c : text) {
+        if (c != '\r') out += c;
+    }
+    return out;
+}
+
+int Fail(std::string_view verb, const std::string& reason) {
+    std::cerr << "lapdesk-cli " << verb << ": " << reason << '\n';
+    return 1;
+}
+
+}  // namespace
+
+void TransformOutputOptions::AddTo(CLI::App& command) {
+    command.add_option(
+        "-o,--output", output,
+        "Write the result as a data file (cp932, CR LF) instead of to standard output");
+    command.add_option("--csv", csv, "Also write t,y,re,im for every point as CSV");
+}
+
+void ReportStatusOnStderr(TransformDriver& driver) {
+    driver.SetStatusSink([](std::string_view text) {
+        if (!text.empty()) std::cerr << text << '\n';
+    });
+}
+
+int WriteTransformOutputs(TransformDriver& driver, std::string_view programText,
+                          const TransformOutputOptions& options, std::string_view verb) {
+    if (options.output) {
+        const Outcome written = WriteTransformFile(driver, *options.output, programText);
+        if (!written.ok) return Fail(verb, written.reason);
+    } else {
+        std::cout << WithLf(TransformFileText(driver, programText));
+    }
+    if (options.csv) {
+        const WriteResult written = WriteBytesAtomic(*options.csv, CsvTable(driver));
+        if (!written.ok) return Fail(verb, written.reason);
+    }
+    return 0;
+}
+
+}  // namespace lapdesk::cli

@@ -1,0 +1,35 @@
+// The outputs shared by the verbs that run the transform: the result text
+// (the data file layout) to a file or standard output, and a CSV table.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace CLI {
+class App;
+}
+
+namespace lapdesk {
+class TransformDriver;
+}
+
+namespace lapdesk::cli {
+
+struct TransformOutputOptions {
+    std::optional<std::string> output;
+    std::optional<std::string> csv;
+
+    void AddTo(CLI::App& command);
+};
+
+// Prints status texts on standard error.
+void ReportStatusOnStderr(TransformDriver& driver);
+
+// Writes the outputs; programText is listed after the result when the data
+// came from a program. Returns the exit status (0, or 1 with the reason on
+// standard error).
+int WriteTransformOutputs(TransformDriver& driver, std::string_view programText,
+                          const TransformOutputOptions& options, std::string_view verb);
+
+}  // namespace lapdesk::cli

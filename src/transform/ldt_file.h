@@ -1,0 +1,49 @@
+// The transform data file (*.Ldt): parameters, the stored samples, the time
+// axis and the result as one text, written in cp932 with CR LF and read back
+// through the import wizard's answers.
+//
+// Layout: "Word Number,  Tend      ,  Ganma ", the parameter line, the column
+// header, then one line per k = 0..N-1: Re, Im (the stored samples), t_k and
+// y[k]. Data made by a program are followed by two empty lines, the title
+// "変換関数作成プログラムリスト" and the program text.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "transform/outcome.h"
+#include "transform/transform_driver.h"
+
+namespace lapdesk {
+
+// Where the wizard says the numbers stand (lines and columns are 1-based).
+struct ImportAnswers {
+    int ParamLine = 2;  // the line with N, T and gamma0
+    int DataLine = 4;   // the first of the N data lines
+    int FirstColumn = 1;
+    std::string Delimiter = ",";  // empty: a space
+};
+
+// The result text: header, parameter line, column header and N data lines,
+// each ending in CR LF.
+std::string WriteResultText(const TransformDriver& driver);
+
+// The whole data file text: the result text, then, when DataSourceLb reads
+// "Math", two empty lines, the title "変換関数作成プログラムリスト" and the
+// program text with CR LF line breaks.
+std::string TransformFileText(const TransformDriver& driver, std::string_view programText);
+
+// Saves the result text, and the program list when DataSourceLb reads
+// "Math", to a file (cp932, CR LF, replaced only when the whole file was
+// written). programText is the calculator's program; its line breaks are
+// written as CR LF.
+Outcome WriteTransformFile(TransformDriver& driver, const std::filesystem::path& path,
+                           std::string_view programText);
+
+// Reads N, T, gamma0 and N samples (cp932 or UTF-8) and runs the inversion.
+// A failed read reports "データ読込み失敗" and leaves the driver as it was.
+Outcome ReadLapData(TransformDriver& driver, const std::filesystem::path& path,
+                    const ImportAnswers& answers);
+
+}  // namespace lapdesk

@@ -1,0 +1,84 @@
+#include "transform/ldt_file.h"
+
+#include <string>
+
+#include "fileio/text_file.h"
+#include "transform/ldt_number_format.h"
+
+namespace lapdesk {
+
+namespace {
+
+constexpr std::string_view kCrLf = "\r\n";
+constexpr std::string_view kProgramListTitle = "変換関数作成プログラムリスト";
+
+char AsciiLower(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool SameTextNoCase(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) return false;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (AsciiLower(a[i]) != AsciiLower(b[i])) return false;
+    }
+    return true;
+}
+
+// Every line break of the text (CR LF, LF or a lone CR) as CR LF.
+std::string WithCrLf(std::string_view text) {
+    std::string out;
+    out.reserve(text.size() + text.size() / 16);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r' || text[i] == '\n') {
+            out += kCrLf;
+            if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') ++i;
+        } else {
+            out += text[i];
+        }
+    }
+    return out;
+}
+
+}  // namespace
+
+std::string WriteResultText(const TransformDriver& driver) {
+    const Conditions c = driver.GetConditions();
+    const SampleStore& store = driver.Store();
+    std::string text;
+    text.reserve(static_cast<std::size_t>(c.N + 3) * 64);
+    text.append("Word Number,  Tend      ,  Ganma ").append(kCrLf);
+    text.append(FormatWordNumber(c.N)).append(",").append(FormatTend(c.T)).append(",");
+    text.append(FormatGanma(c.Gamma0)).append(kCrLf);
+    text.append("   Real Part    ,   Image Part   ,     t      ,     y").append(kCrLf);
+    for (int k = 0; k < c.N; ++k) {
+        text.append(FormatSample(store[kSampleRe].Values[k])).append(",");
+        text.append(FormatSample(store[kSampleIm].Values[k])).append(",");
+        text.append(FormatTimeValue(c.TimeAt(k))).append(",");
+        text.append(FormatTimeValue(store[kResult].Values[k])).append(kCrLf);
+    }
+    return text;
+}
+
+std::string TransformFileText(const TransformDriver& driver, std::string_view programText) {
+    std::string text = WriteResultText(driver);
+    if (SameTextNoCase(driver.DataSourceLb(), kLabelMath)) {
+        text.append(kCrLf).append(kCrLf).append(kProgramListTitle).append(kCrLf);
+        text.append(WithCrLf(programText)).append(kCrLf);
+    }
+    return text;
+}
+
+Outcome WriteTransformFile(TransformDriver& driver, const std::filesystem::path& path,
+                           std::string_view programText) {
+    driver.SetStatus("");
+    driver.SetStatus("データ書込み開始");
+    const WriteResult written = WriteTextAtomic(path, TransformFileText(driver, programText));
+    if (!written.ok) {
+        driver.SetStatus("データ書きみ失敗");
+        return Outcome::Failure(written.reason);
+    }
+    driver.SetStatus("データ書込み成功");
+    return Outcome::Success();
+}
+
+}  // namespace lapdesk

@@ -1,0 +1,223 @@
+#include "transform/transform_driver.h"
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+#include <string>
+
+#include "values/fault.h"
+#include "values/number_text.h"
+
+namespace lapdesk {
+
+namespace {
+
+// pi as 4*atan(1), computed on first use so that it is ready whatever the
+// order of static initialisation.
+double Pi() {
+    static const double pi = 4.0 * std::atan(1.0);
+    return pi;
+}
+
+// Entries of the cosine table before the first build.
+constexpr int kInitialCosTableSize = 1024;
+
+// Parses an entry for T or gamma0: a number greater than 0, as label text.
+bool PositiveNumberText(std::string_view text, std::string& label) {
+    double x = 0.0;
+    if (!TextToReal(text, x) || !(x > 0.0)) return false;
+    label = DoubleToText(x);
+    return true;
+}
+
+double LabelNumber(const std::string& label) {
+    double x = 0.0;
+    TextToReal(label, x);
+    return x;
+}
+
+std::string InversionFailure(const RuntimeFault& fault) {
+    if (fault.code() == FaultCode::Overflow) {
+        return "the inversion overflowed: a result is too large for a double "
+               "(a large gamma0 makes exp(k*gamma0/N) overflow)";
+    }
+    return std::string("the inversion failed: ") + fault.what();
+}
+
+}  // namespace
+
+double Conditions::DeltaOmega() const {
+    return 2.0 * Pi() / T;
+}
+
+TransformDriver::TransformDriver() {
+    block_.CosTable.resize(kInitialCosTableSize);
+}
+
+void TransformDriver::SetStatus(std::string_view text) const {
+    if (status_) status_(text);
+}
+
+void TransformDriver::MarkDataInvalid() {
+    resultLb_ = kLabelNon;
+    dataSourceLb_ = kLabelNon;
+}
+
+bool TransformDriver::SetWordNumber(std::string_view text) {
+    if (std::find(kWrdList.begin(), kWrdList.end(), text) == kWrdList.end()) return false;
+    if (wordNumberLb_ != text) MarkDataInvalid();
+    wordNumberLb_ = text;
+    return true;
+}
+
+bool TransformDriver::SetTend(std::string_view text) {
+    std::string label;
+    if (!PositiveNumberText(text, label)) return false;
+    if (tendLb_ != label) MarkDataInvalid();
+    tendLb_ = label;
+    return true;
+}
+
+bool TransformDriver::SetGanma(std::string_view text) {
+    std::string label;
+    if (!PositiveNumberText(text, label)) return false;
+    if (ganmaLb_ != label) MarkDataInvalid();
+    ganmaLb_ = label;
+    return true;
+}
+
+Conditions TransformDriver::GetConditions() const {
+    Conditions c;
+    c.N = static_cast<std::int16_t>(std::stoi(wordNumberLb_));
+    c.NPos = static_cast<std::int16_t>(c.N / 2);
+    c.T = LabelNumber(tendLb_);
+    c.Gamma0 = LabelNumber(ganmaLb_);
+    return c;
+}
+
+bool TransformDriver::BuildCosTable() {
+    const int n = GetConditions().N;
+    if (n == 0 || cosinTableLb_ == std::to_string(n)) return false;
+    block_.CosTable.resize(n / 2 + 1);
+    for (int k = 0; k <= n / 2; ++k)
+        block_.CosTable[k] = std::cos(k * 2.0 * Pi() / n);
+    cosinTableLb_ = std::to_string(n);
+    return true;
+}
+
+Complex TransformDriver::SamplePoint(int k) const {
+    const Conditions c = GetConditions();
+    return {c.Gamma(), k * c.DeltaOmega()};
+}
+
+double TransformDriver::HanningWeight(int k) const {
+    if (!haningOn_) return 1.0;
+    const double c = 2.0 * Pi() / GetConditions().N;
+    return (std::cos(k * c) + 1.0) * 0.5;
+}
+
+void TransformDriver::BeginDataCreation() {
+    SetStatus("データ作成中");
+    MarkDataInvalid();
+}
+
+Outcome TransformDriver::StoreSample(int k, const Complex& value) {
+    const Conditions c = GetConditions();
+    if (k < 0 || k > c.NPos) {
+        return Outcome::Failure("sample index " + std::to_string(k) + " is outside 0.." +
+                                std::to_string(c.NPos));
+    }
+    const double w = HanningWeight(k);
+    const double scale = c.N / c.T;
+    block_.WindowWeight = w;
+    double re = 0.0;
+    double im = 0.0;
+    try {
+        re = Checked(Checked(value.Re * scale) * w);
+        im = Checked(Checked(value.Im * scale) * w);
+    } catch (const RuntimeFault&) {
+        return Outcome::Failure("F(s) at k = " + std::to_string(k) +
+                                " is too large to scale by N/T");
+    }
+    std::vector<double>& reSeries = store_[kSampleRe].Values;
+    std::vector<double>& imSeries = store_[kSampleIm].Values;
+    reSeries[k] = re;
+    imSeries[k] = im;
+    if (k != 0 && k != c.N / 2) {
+        reSeries[c.N - k] = re;
+        imSeries[c.N - k] = -im;
+    }
+    return Outcome::Success();
+}
+
+Outcome TransformDriver::FinishDataCreation() {
+    SetStatus("データ作成成功");
+    dataSourceLb_ = kLabelMath;
+    const int n = GetConditions().N;
+    store_.GetMaxValue(kSampleRe, n);
+    store_.GetMaxValue(kSampleIm, n);
+    return Invert();
+}
+
+Outcome TransformDriver::MakeData(const std::function<Complex(const Complex&)>& f) {
+    BeginDataCreation();
+    const int nPos = GetConditions().NPos;
+    for (int k = 0; k <= nPos; ++k) {
+        Outcome stored;
+        try {
+            stored = StoreSample(k, f(SamplePoint(k)));
+        } catch (const std::exception& e) {
+            stored = Outcome::Failure("F(s) failed at k = " + std::to_string(k) + ": " + e.what());
+        }
+        if (!stored.ok) {
+            SetStatus("数値計算実行時エラー");
+            return stored;
+        }
+    }
+    return FinishDataCreation();
+}
+
+// Fills the complex data from kinds 0 and 1, inverts it into a scratch
+// array and commits the result to kind 2 only when the whole of it is valid.
+Outcome TransformDriver::Invert() {
+    const Conditions c = GetConditions();
+    block_.N = c.N;
+    block_.NHalf = c.NPos;
+    block_.Gamma0 = c.Gamma0;
+    block_.Tend = c.T;
+    block_.HaningOn = haningOn_;
+    SetStatus("逆ラプラス変換中");
+    BuildCosTable();
+    for (int k = 0; k < c.N; ++k) {
+        block_.Data[k] = {store_[kSampleRe].Values[k], store_[kSampleIm].Values[k]};
+    }
+    SetStatus("逆ＦＦＴ");
+    try {
+        IfftToReal(output_, block_);
+    } catch (const RuntimeFault& fault) {
+        resultLb_ = kLabelNon;
+        SetStatus("");
+        return Outcome::Failure(InversionFailure(fault));
+    }
+    std::copy_n(output_.begin(), c.N, store_[kResult].Values.begin());
+    store_.GetMaxValue(kResult, static_cast<int>(std::nearbyint(0.8 * c.N)));
+    SetStatus("逆変換終了");
+    resultLb_ = kLabelOk;
+    SetStatus("");
+    return Outcome::Success();
+}
+
+void TransformDriver::LoadFileData(std::int16_t n, double t, double gamma0,
+                                   std::span<const double> re, std::span<const double> im) {
+    wordNumberLb_ = std::to_string(n);
+    tendLb_ = DoubleToText(t);
+    ganmaLb_ = DoubleToText(gamma0);
+    std::copy_n(re.begin(), n, store_[kSampleRe].Values.begin());
+    std::copy_n(im.begin(), n, store_[kSampleIm].Values.begin());
+    resultLb_ = kLabelNon;
+    dataSourceLb_ = kLabelFile;
+    store_.GetMaxValue(kSampleRe, n);
+    store_.GetMaxValue(kSampleIm, n);
+}
+
+}  // namespace lapdesk

@@ -1,0 +1,121 @@
+// The numerical inverse Laplace transform as the transform window drives it:
+// the parameters and state labels, the sample store, the sampling rule on the
+// line s = gamma + j*omega, and the inversion command. Every public operation
+// reports failure as an Outcome; no fault escapes.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "transform/inverse_fft.h"
+#include "transform/outcome.h"
+#include "transform/sample_store.h"
+#include "values/complex.h"
+
+namespace lapdesk {
+
+// Texts of the state labels.
+inline constexpr std::string_view kLabelNon = "Non";
+inline constexpr std::string_view kLabelMath = "Math";
+inline constexpr std::string_view kLabelFile = "File";
+inline constexpr std::string_view kLabelOk = "OK";
+
+// The choices of N offered in WrdList.
+inline constexpr std::array<std::string_view, 6> kWrdList = {"128",  "256",  "512",
+                                                             "1024", "2048", "4096"};
+
+// The parameters as read from the labels, with the values derived from them.
+struct Conditions {
+    std::int16_t N = 0;
+    std::int16_t NPos = 0;  // N/2: samples are taken for k = 0..NPos
+    double T = 0.0;         // record length
+    double Gamma0 = 0.0;    // gamma * T
+
+    double Gamma() const { return Gamma0 / T; }  // real part of every sample point
+    double DeltaOmega() const;                   // 2*pi/T between sample points
+    double DeltaT() const { return T / N; }      // spacing of the result
+    double TimeAt(int k) const { return k * T / N; }
+};
+
+class TransformDriver {
+  public:
+    using StatusSink = std::function<void(std::string_view)>;
+
+    // N "256", T "5", gamma0 "5", Hanning on, no data and no result.
+    TransformDriver();
+
+    // Progress texts go to the sink (the window's status label).
+    void SetStatusSink(StatusSink sink) { status_ = std::move(sink); }
+    void SetStatus(std::string_view text) const;
+
+    // Parameter entry. N must be one of kWrdList; T and gamma0 must be numbers
+    // greater than 0. A rejected text changes nothing and returns false. A new
+    // value sets ResultLb and DataSourceLb to "Non": data made for other
+    // parameters are no longer valid.
+    bool SetWordNumber(std::string_view text);
+    bool SetTend(std::string_view text);
+    bool SetGanma(std::string_view text);
+    void SetHaning(bool on) { haningOn_ = on; }
+
+    const std::string& WordNumberLb() const { return wordNumberLb_; }
+    const std::string& TendLb() const { return tendLb_; }
+    const std::string& Ganmalb() const { return ganmaLb_; }
+    const std::string& CosinTableLb() const { return cosinTableLb_; }
+    const std::string& DataSourceLb() const { return dataSourceLb_; }
+    const std::string& ResultLb() const { return resultLb_; }
+    bool HaningOn() const { return haningOn_; }
+
+    Conditions GetConditions() const;
+
+    // Rebuilds the cosine table only when N differs from CosinTableLb;
+    // returns whether it did.
+    bool BuildCosTable();
+
+    const SampleStore& Store() const { return store_; }
+    const TransformBlock& Block() const { return block_; }
+
+    // Sampling rule, k = 0..N/2: the point s_k = gamma + j*k*2*pi/T, the
+    // Hanning weight (1 + cos(k*2*pi/N))/2 (1 when Hanning is off), and
+    // StoreSample, which stores F(s_k)*(N/T)*w_k at k and its conjugate at
+    // N-k (except for k = 0 and k = N/2). A program-driven loop calls
+    // BeginDataCreation, StoreSample for every k and FinishDataCreation.
+    Complex SamplePoint(int k) const;
+    double HanningWeight(int k) const;
+    void BeginDataCreation();
+    Outcome StoreSample(int k, const Complex& value);
+    // Marks the data as made by a program ("Math") and runs the inversion.
+    Outcome FinishDataCreation();
+    // The whole loop for a callable F(s); an exception from F stops it.
+    Outcome MakeData(const std::function<Complex(const Complex&)>& f);
+
+    // Inverts the present samples into the result series (kind 2).
+    Outcome Invert();
+
+    // Takes samples read from a file: sets the parameter labels, stores
+    // re/im in kinds 0 and 1 and marks the source "File". n must be one of
+    // kWrdList, t and gamma0 greater than 0, and re and im hold n values.
+    void LoadFileData(std::int16_t n, double t, double gamma0, std::span<const double> re,
+                      std::span<const double> im);
+
+  private:
+    void MarkDataInvalid();
+
+    StatusSink status_;
+    std::string wordNumberLb_ = "256";
+    std::string tendLb_ = "5";
+    std::string ganmaLb_ = "5";
+    std::string cosinTableLb_ = "0";
+    std::string dataSourceLb_{kLabelNon};
+    std::string resultLb_{kLabelNon};
+    bool haningOn_ = true;
+    TransformBlock block_;
+    SampleStore store_;
+    std::vector<double> output_ = std::vector<double>(kMaxPoints);
+};
+
+}  // namespace lapdesk

@@ -1,0 +1,300 @@
+#include "transform/transform_driver.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <ostream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "status_log.h"
+
+namespace lapdesk {
+namespace {
+
+using testing_support::StatusLog;
+using Strings = std::vector<std::string>;
+
+const double kPi = 4.0 * std::atan(1.0);
+
+Complex OneOverSPlusOne(const Complex& s) {
+    return CplDiv({1, 0}, CplAdd(s, {1, 0}));
+}
+
+TEST(TransformDriver, DefaultsGiveTheSamplingGrid) {
+    const TransformDriver driver;
+    EXPECT_EQ(driver.CosinTableLb(), "0");
+    EXPECT_EQ(driver.DataSourceLb(), "Non");
+    EXPECT_EQ(driver.ResultLb(), "Non");
+    EXPECT_TRUE(driver.HaningOn());
+    const Conditions c = driver.GetConditions();
+    EXPECT_EQ(c.N, 256);
+    EXPECT_EQ(c.NPos, 128);
+    EXPECT_EQ(c.Gamma(), 1.0);
+    EXPECT_DOUBLE_EQ(c.DeltaOmega(), 2 * kPi / 5);
+    EXPECT_EQ(c.DeltaT(), 5.0 / 256);
+    EXPECT_EQ(c.TimeAt(128), 2.5);
+}
+
+TEST(ParameterEntry, AcceptsOnlyValidTexts) {
+    struct Row {
+        std::function<bool(TransformDriver&, std::string_view)> set;
+        std::function<std::string(const TransformDriver&)> label;
+        std::string text;
+        bool accepted;
+        std::string labelAfter;
+    };
+    const auto n = [](TransformDriver& d, std::string_view t) { return d.SetWordNumber(t); };
+    const auto t = [](TransformDriver& d, std::string_view s) { return d.SetTend(s); };
+    const auto g = [](TransformDriver& d, std::string_view s) { return d.SetGanma(s); };
+    const auto nLb = [](const TransformDriver& d) { return d.WordNumberLb(); };
+    const auto tLb = [](const TransformDriver& d) { return d.TendLb(); };
+    const auto gLb = [](const TransformDriver& d) { return d.Ganmalb(); };
+    const std::vector<Row> rows = {
+        {n, nLb, "128", true, "128"},  {n, nLb, "4096", true, "4096"},
+        {n, nLb, "64", false, "256"},  {n, nLb, "8192", false, "256"},
+        {n, nLb, "300", false, "256"}, {n, nLb, " 512", false, "256"},
+        {t, tLb, "2.5", true, "2.5"},  {t, tLb, "1E-3", true, "0.001"},
+        {t, tLb, "10.0", true, "10"},  {t, tLb, "0", false, "5"},
+        {t, tLb, "-1", false, "5"},    {t, tLb, "abc", false, "5"},
+        {t, tLb, "", false, "5"},      {g, gLb, "0.5", true, "0.5"},
+        {g, gLb, "-0.5", false, "5"},  {g, gLb, "1e999", false, "5"},
+    };
+    for (const Row& row : rows) {
+        TransformDriver driver;
+        EXPECT_EQ(row.set(driver, row.text), row.accepted) << row.text;
+        EXPECT_EQ(row.label(driver), row.labelAfter) << row.text;
+    }
+}
+
+TEST(ParameterEntry, ANewValueInvalidatesDataAndResult) {
+    const std::vector<std::function<bool(TransformDriver&)>> changes = {
+        [](TransformDriver& d) { return d.SetWordNumber("512"); },
+        [](TransformDriver& d) { return d.SetTend("2"); },
+        [](TransformDriver& d) { return d.SetGanma("3"); },
+    };
+    for (const auto& change : changes) {
+        TransformDriver driver;
+        ASSERT_TRUE(driver.MakeData(OneOverSPlusOne).ok);
+        ASSERT_EQ(driver.DataSourceLb(), "Math");
+        ASSERT_EQ(driver.ResultLb(), "OK");
+        ASSERT_TRUE(change(driver));
+        EXPECT_EQ(driver.DataSourceLb(), "Non");
+        EXPECT_EQ(driver.ResultLb(), "Non");
+    }
+}
+
+TEST(ParameterEntry, SameValueOrRejectedTextKeepsTheData) {
+    TransformDriver driver;
+    ASSERT_TRUE(driver.MakeData(OneOverSPlusOne).ok);
+    EXPECT_TRUE(driver.SetWordNumber("256"));
+    EXPECT_TRUE(driver.SetTend("5.0"));
+    EXPECT_FALSE(driver.SetGanma("0"));
+    driver.SetHaning(false);
+    EXPECT_EQ(driver.DataSourceLb(), "Math");
+    EXPECT_EQ(driver.ResultLb(), "OK");
+}
+
+TEST(Sampling, HanningWeightRunsFromOneToZero) {
+    TransformDriver driver;
+    EXPECT_EQ(driver.HanningWeight(0), 1.0);
+    EXPECT_EQ(driver.HanningWeight(128), 0.0);
+    EXPECT_DOUBLE_EQ(driver.HanningWeight(64), 0.5);
+    driver.SetHaning(false);
+    EXPECT_EQ(driver.HanningWeight(0), 1.0);
+    EXPECT_EQ(driver.HanningWeight(128), 1.0);
+}
+
+TEST(Sampling, StoresScaledWeightedSamplesAndTheirConjugateMirror) {
+    TransformDriver driver;  // N 256, T 5: scale 51.2
+    driver.SetHaning(false);
+    ASSERT_TRUE(driver.StoreSample(0, {1, 2}).ok);
+    ASSERT_TRUE(driver.StoreSample(3, {1, 2}).ok);
+    ASSERT_TRUE(driver.StoreSample(128, {1, 2}).ok);
+    const auto& re = driver.Store()[kSampleRe].Values;
+    const auto& im = driver.Store()[kSampleIm].Values;
+    EXPECT_EQ(re[3], 51.2);
+    EXPECT_EQ(im[3], 102.4);
+    EXPECT_EQ(re[253], 51.2);
+    EXPECT_EQ(im[253], -102.4);
+    EXPECT_EQ(im[0], 102.4);  // index 0 is not mirrored into index 256
+    EXPECT_EQ(re[256], 0.0);
+    EXPECT_EQ(im[128], 102.4);  // nor is index N/2
+    driver.SetHaning(true);
+    ASSERT_TRUE(driver.StoreSample(128, {1, 2}).ok);
+    EXPECT_EQ(re[128], 0.0);
+    EXPECT_EQ(im[128], 0.0);
+}
+
+TEST(Sampling, RefusesIndicesOffTheHalfSpectrumAndOverflow) {
+    TransformDriver driver;
+    EXPECT_FALSE(driver.StoreSample(-1, {1, 0}).ok);
+    EXPECT_FALSE(driver.StoreSample(129, {1, 0}).ok);
+    const Outcome overflow = driver.StoreSample(1, {1e308, 0});
+    EXPECT_FALSE(overflow.ok);
+    EXPECT_NE(overflow.reason.find("k = 1"), std::string::npos) << overflow.reason;
+}
+
+struct AnalyticPair {
+    const char* name;
+    Complex (*F)(const Complex&);
+    double (*f)(double);
+    int firstChecked;               // samples skipped after a jump at t = 0
+    double (*tolerance)(double t);  // the method's error at t
+};
+
+// With T = 10 and gamma0 = 10 the aliasing error of the damped inversion is
+// about the sum over n >= 1 of f(t + nT)*exp(-n*gamma0). The Hanning taper
+// adds a smoothing error of order dt^2*f''(t), rounds a kink at t = 0 over
+// one sample and makes a jump at t = 0 ring for a few samples.
+const AnalyticPair kPairs[] = {
+    {"ExpDecay", OneOverSPlusOne, [](double t) { return std::exp(-t); }, 8,
+     [](double) { return 3e-4; }},
+    {"Ramp",
+     [](const Complex& s) {
+         return CplDiv({1, 0}, CplMul(s, s));
+     },
+     [](double t) { return t; }, 1, [](double t) { return 2 * (t + 10) * std::exp(-10.0) + 1e-4; }},
+    {"Sine",
+     [](const Complex& s) {
+         return CplDiv({1, 0}, CplAdd(CplMul(s, s), {1, 0}));
+     },
+     [](double t) { return std::sin(t); }, 1, [](double) { return 3e-4; }},
+};
+
+// Names the row in test listings instead of dumping its bytes.
+void PrintTo(const AnalyticPair& row, std::ostream* os) {
+    *os << row.name;
+}
+
+class AnalyticInversion : public testing::TestWithParam<AnalyticPair> {};
+
+TEST_P(AnalyticInversion, MatchesTheTimeFunctionOverTheFirstEightyPercent) {
+    const AnalyticPair& pair = GetParam();
+    TransformDriver driver;
+    ASSERT_TRUE(driver.SetWordNumber("1024"));
+    ASSERT_TRUE(driver.SetTend("10"));
+    ASSERT_TRUE(driver.SetGanma("10"));
+    const Outcome made = driver.MakeData(pair.F);
+    ASSERT_TRUE(made.ok) << made.reason;
+    const Conditions c = driver.GetConditions();
+    const auto& y = driver.Store()[kResult].Values;
+    for (int k = pair.firstChecked; k < 819; ++k) {
+        const double t = c.TimeAt(k);
+        ASSERT_NEAR(y[k], pair.f(t), pair.tolerance(t)) << "k " << k << " t " << t;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Pairs, AnalyticInversion, testing::ValuesIn(kPairs),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST(Inversion, AJumpAtZeroGivesItsMidpoint) {
+    TransformDriver driver;
+    ASSERT_TRUE(driver.MakeData(OneOverSPlusOne).ok);
+    EXPECT_NEAR(driver.Store()[kResult].Values[0], 0.5, 0.02);
+}
+
+TEST(Inversion, ReportsItsPhasesInOrder) {
+    TransformDriver driver;
+    StatusLog log(driver);
+    ASSERT_TRUE(driver.MakeData(OneOverSPlusOne).ok);
+    EXPECT_EQ(log.texts, (Strings{"データ作成中", "データ作成成功", "逆ラプラス変換中", "逆ＦＦＴ",
+                                  "逆変換終了", ""}));
+    log.texts.clear();
+    ASSERT_TRUE(driver.Invert().ok);
+    EXPECT_EQ(log.texts, (Strings{"逆ラプラス変換中", "逆ＦＦＴ", "逆変換終了", ""}));
+}
+
+TEST(Inversion, RepeatsBitForBitWithoutRebuildingTheTable) {
+    TransformDriver driver;
+    ASSERT_TRUE(driver.MakeData(OneOverSPlusOne).ok);
+    EXPECT_EQ(driver.CosinTableLb(), "256");
+    const std::vector<double> first = driver.Store()[kResult].Values;
+    EXPECT_FALSE(driver.BuildCosTable());
+    ASSERT_TRUE(driver.Invert().ok);
+    EXPECT_EQ(driver.Store()[kResult].Values, first);
+    EXPECT_EQ(driver.Block().CosTable.size(), 129u);
+}
+
+TEST(Inversion, RebuildsTheTableOnlyForANewN) {
+    TransformDriver driver;
+    EXPECT_TRUE(driver.BuildCosTable());
+    EXPECT_FALSE(driver.BuildCosTable());
+    ASSERT_TRUE(driver.SetWordNumber("2048"));
+    EXPECT_TRUE(driver.BuildCosTable());
+    EXPECT_EQ(driver.CosinTableLb(), "2048");
+    ASSERT_EQ(driver.Block().CosTable.size(), 1025u);
+    EXPECT_EQ(driver.Block().CosTable[0], 1.0);
+    EXPECT_EQ(driver.Block().CosTable[1024], -1.0);
+}
+
+TEST(Inversion, ScaleOfTheResultIgnoresTheLastFifth) {
+    TransformDriver driver;  // N 256: the first 205 points set the scale
+    ASSERT_TRUE(driver.MakeData([](const Complex& s) { return CplDiv({1, 0}, CplMul(s, s)); }).ok);
+    const SampleSeries& y = driver.Store()[kResult];
+    const auto first = y.Values.begin();
+    EXPECT_EQ(y.MaxValue, *std::max_element(first, first + 205));
+    EXPECT_EQ(y.MinValue, *std::min_element(first, first + 205));
+    EXPECT_LT(y.MaxValue, *std::max_element(first, first + 256));  // f(t) = t keeps rising
+}
+
+TEST(Inversion, OverflowFailsCleanlyAndKeepsTheLastResult) {
+    TransformDriver driver;
+    ASSERT_TRUE(driver.MakeData(OneOverSPlusOne).ok);
+    const std::vector<double> before = driver.Store()[kResult].Values;
+    ASSERT_TRUE(driver.SetGanma("1000"));
+    StatusLog log(driver);
+    const Outcome outcome = driver.MakeData(OneOverSPlusOne);
+    EXPECT_FALSE(outcome.ok);
+    EXPECT_NE(outcome.reason.find("overflow"), std::string::npos) << outcome.reason;
+    EXPECT_EQ(driver.ResultLb(), "Non");
+    EXPECT_EQ(driver.Store()[kResult].Values, before);
+    EXPECT_EQ(log.texts.back(), "");
+}
+
+TEST(DataCreation, AFailingFunctionStopsTheLoop) {
+    TransformDriver driver;
+    StatusLog log(driver);
+    int calls = 0;
+    const Outcome outcome = driver.MakeData([&calls](const Complex& s) {
+        if (++calls == 11) throw std::runtime_error("no value");
+        return OneOverSPlusOne(s);
+    });
+    EXPECT_FALSE(outcome.ok);
+    EXPECT_NE(outcome.reason.find("k = 10"), std::string::npos) << outcome.reason;
+    EXPECT_EQ(log.texts, (Strings{"データ作成中", "数値計算実行時エラー"}));
+    EXPECT_EQ(driver.DataSourceLb(), "Non");
+    EXPECT_EQ(driver.ResultLb(), "Non");
+    EXPECT_NE(driver.Store()[kSampleRe].Values[9], 0.0);  // points made so far stay
+    EXPECT_NE(driver.Store()[kSampleRe].Values[256 - 9], 0.0);
+    EXPECT_EQ(driver.Store()[kSampleRe].Values[10], 0.0);
+}
+
+TEST(DataCreation, ArithmeticFaultInTheFunctionIsReported) {
+    TransformDriver driver;
+    const Outcome outcome = driver.MakeData([](const Complex& s) {
+        return CplDiv({1, 0}, CplSub(s, {1, 0}));
+    });
+    EXPECT_FALSE(outcome.ok);  // s_0 = 1 + 0j divides by zero
+    EXPECT_NE(outcome.reason.find("k = 0"), std::string::npos) << outcome.reason;
+}
+
+TEST(DataCreation, SamplesHalfTheSpectrumPlusOne) {
+    TransformDriver driver;
+    ASSERT_TRUE(driver.SetWordNumber("128"));
+    std::vector<Complex> points;
+    ASSERT_TRUE(driver
+                    .MakeData([&points](const Complex& s) {
+                        points.push_back(s);
+                        return Complex{1, 0};
+                    })
+                    .ok);
+    ASSERT_EQ(points.size(), 65u);
+    EXPECT_EQ(points.back(), driver.SamplePoint(64));
+}
+
+}  // namespace
+}  // namespace lapdesk
