@@ -28,8 +28,8 @@ bool RunLine(std::string line, Interpreter& session, ConsoleView& view) {
     if (!result.ok) {
         std::cout << "Error\n";
         const std::string& reason = session.ImmediatePage().ErrorText();
-        std::cerr << line << " : " << (reason.empty() ? "式が正しくありません" : ForTerminal(reason))
-                  << '\n';
+        std::cerr << line << " : "
+                  << (reason.empty() ? "式が正しくありません" : ForTerminal(reason)) << '\n';
         return false;
     }
     std::cout << ComplexToText(result.value, view.RoundedDisplay()) << '\n';
@@ -43,9 +43,11 @@ int RunCalc(const CalcOptions& options) {
     bool allOk = true;
     if (options.lines.empty()) {
         std::string line;
-        while (std::getline(std::cin, line)) allOk = RunLine(line, session, view) && allOk;
+        while (std::getline(std::cin, line))
+            allOk = RunLine(line, session, view) && allOk;
     } else {
-        for (const std::string& line : options.lines) allOk = RunLine(line, session, view) && allOk;
+        for (const std::string& line : options.lines)
+            allOk = RunLine(line, session, view) && allOk;
     }
     return allOk ? 0 : 1;
 }
@@ -55,9 +57,11 @@ int RunCalc(const CalcOptions& options) {
 void AddCalcCommand(CLI::App& app, int& exitStatus) {
     auto options = std::make_shared<CalcOptions>();
     CLI::App* calc = app.add_subcommand(
-        "calc", "Evaluate each LINE (or each line of standard input) as the calculator's immediate line");
+        "calc",
+        "Evaluate each LINE (or each line of standard input) as the calculator's immediate line");
     options->language.AddTo(*calc);
-    calc->add_option("LINE", options->lines, "Lines to evaluate (after --, lines may begin with -)");
+    calc->add_option("LINE", options->lines,
+                     "Lines to evaluate (after --, lines may begin with -)");
     calc->callback([options, &exitStatus] { exitStatus = RunCalc(*options); });
 }
 

@@ -13,7 +13,9 @@ namespace {
 
 volatile std::sig_atomic_t interrupted = 0;
 
-extern "C" void OnInterrupt(int) { interrupted = 1; }
+extern "C" void OnInterrupt(int) {
+    interrupted = 1;
+}
 
 }  // namespace
 
@@ -22,7 +24,9 @@ ConsoleView::ConsoleView(bool rounded)
     std::signal(SIGINT, OnInterrupt);
 }
 
-ConsoleView::~ConsoleView() { std::signal(SIGINT, SIG_DFL); }
+ConsoleView::~ConsoleView() {
+    std::signal(SIGINT, SIG_DFL);
+}
 
 std::string ForTerminal(std::string text) {
     for (std::size_t at = text.find("\r\n"); at != std::string::npos; at = text.find("\r\n", at)) {
@@ -36,11 +40,17 @@ void ConsoleView::Errmessage(const std::string& message) {
     std::cerr << ForTerminal(message) << '\n';
 }
 
-void ConsoleView::ShowHint(const std::string& text) { std::cerr << text << '\n'; }
+void ConsoleView::ShowHint(const std::string& text) {
+    std::cerr << text << '\n';
+}
 
-bool ConsoleView::StopRequested() const { return interrupted != 0; }
+bool ConsoleView::StopRequested() const {
+    return interrupted != 0;
+}
 
-void ConsoleView::ClearStopRequest() { interrupted = 0; }
+void ConsoleView::ClearStopRequest() {
+    interrupted = 0;
+}
 
 }  // namespace lapdesk::cli
 

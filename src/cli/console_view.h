@@ -11,7 +11,7 @@
 namespace lapdesk::cli {
 
 class ConsoleView : public InterpreterView {
-public:
+  public:
     explicit ConsoleView(bool rounded);
     ~ConsoleView() override;
     ConsoleView(const ConsoleView&) = delete;
@@ -39,7 +39,7 @@ public:
 
     void ClearStopRequest() override;
 
-private:
+  private:
     bool rounded_;
     bool sawMessage_ = false;
     bool meterOnTerminal_;

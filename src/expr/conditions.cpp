@@ -15,7 +15,9 @@ bool IsWordChar(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
 }
 
-bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+bool IsLetter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
 
 // Binding strength; relational operators bind tightest, ".Or." loosest.
 int Priority(std::string_view op) {
@@ -65,7 +67,9 @@ struct Operand {
     bool truth;
 };
 
-Operand FromTruth(bool truth) { return {{truth ? 1.0 : 0.0, 0.0}, truth}; }
+Operand FromTruth(bool truth) {
+    return {{truth ? 1.0 : 0.0, 0.0}, truth};
+}
 
 // Pops the operands of `op` and pushes its result; false when they are missing.
 bool Apply(std::string_view op, std::vector<Operand>& operands) {

@@ -1,5 +1,6 @@
 #include "expr/evaluator.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "expr/nesting_guard.h"
@@ -38,9 +39,16 @@ bool Evaluator::EvalSum(std::string_view& text, Complex& value) {
         text.remove_prefix(1);
     }
     Complex acc{};
-    for (;;) {
+    for (bool leading = true;; leading = false) {
+        // A sign right after a binary "+" or "-" signs the next operand
+        // (p=1+-2j); after the leading sign it does not (--3 fails).
+        const std::size_t start = std::min(text.find_first_not_of(" \t"), text.size());
+        const bool signedOperand =
+            !leading && start < text.size() && CharInSet(text[start], "+-") != 0;
         std::string_view operand;
-        if (!SplitOperand(text, "+-", operand)) return Fail(std::string(kBrackets));
+        if (!SplitOperand(text, "+-", operand, signedOperand ? start + 1 : 0)) {
+            return Fail(std::string(kBrackets));
+        }
         Complex v;
         if (!EvalTerm(operand, v)) return false;
         ApplyOperator(op, acc, v);
@@ -156,7 +164,8 @@ bool Evaluator::EvalMatrixFunction(std::size_t row, std::string_view text, Compl
     if (!BracketClosesAtEnd(text, open)) return Fail(std::string(kBrackets));
     std::vector<std::string_view> names;
     if (!SplitTopLevel(text.substr(open + 1, text.size() - open - 2), ',', names)) return false;
-    for (std::string_view& name : names) name = Trim(name);
+    for (std::string_view& name : names)
+        name = Trim(name);
     return scope_.CallMatrixFunction(row, names, value);
 }
 
@@ -179,7 +188,8 @@ Evaluation Evaluate(std::string_view text, NameScope& scope) {
     try {
         result.ok = evaluator.EvalSum(text, result.value);
         if (!result.ok) {
-            result.message = evaluator.failure().empty() ? "式が正しくありません" : evaluator.failure();
+            result.message =
+                evaluator.failure().empty() ? "式が正しくありません" : evaluator.failure();
         }
     } catch (const RuntimeFault& fault) {
         result.ok = false;

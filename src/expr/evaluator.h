@@ -14,7 +14,7 @@
 namespace lapdesk {
 
 class Evaluator {
-public:
+  public:
     explicit Evaluator(NameScope& scope) : scope_(scope) {}
 
     // Each level consumes the text from the left and leaves it empty on
@@ -35,7 +35,7 @@ public:
     const std::string& failure() const { return failure_; }
     void ClearFailure() { failure_.clear(); }
 
-private:
+  private:
     bool Fail(std::string reason);
     bool EvalChain(std::string_view& text, std::string_view ops, bool factors, Complex& value);
     bool EvalOperand(std::string_view operand, bool factors, Complex& value);

@@ -15,13 +15,24 @@ bool ApplyMatrixFunction(std::size_t index, std::span<const ComplexArray* const>
     ComplexArray result;
     bool ok = false;
     switch (index) {
-        case 0: ok = GaussSolve(*args[0], *args[1], result); break;
-        case 1: ok = MatxVec(*args[0], *args[1], result); break;
-        case 2: ok = MatxMat(*args[0], *args[1], result); break;
-        case 3: return MatI1(*args[0], scalar);
-        case 4: return MatJ2(*args[0], scalar);
-        case 5: return MatI3(*args[0], scalar);
-        case 6: ok = InvMat(*args[0], result); break;
+        case 0:
+            ok = GaussSolve(*args[0], *args[1], result);
+            break;
+        case 1:
+            ok = MatxVec(*args[0], *args[1], result);
+            break;
+        case 2:
+            ok = MatxMat(*args[0], *args[1], result);
+            break;
+        case 3:
+            return MatI1(*args[0], scalar);
+        case 4:
+            return MatJ2(*args[0], scalar);
+        case 5:
+            return MatI3(*args[0], scalar);
+        case 6:
+            ok = InvMat(*args[0], result);
+            break;
     }
     if (!ok) return false;
     scalar = result.Values.front();

@@ -12,7 +12,7 @@ namespace lapdesk {
 class Evaluator;
 
 class NameScope {
-public:
+  public:
     virtual ~NameScope() = default;
 
     // The value of a variable (no subscripts) or an array element (one or

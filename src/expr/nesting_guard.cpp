@@ -28,7 +28,9 @@ NestingGuard::NestingGuard(std::size_t stackBudget) {
     ok_ = levels <= kMaxLevels && used <= stackBudget;
 }
 
-NestingGuard::~NestingGuard() { --levels; }
+NestingGuard::~NestingGuard() {
+    --levels;
+}
 
 bool NestingGuard::Admits(std::size_t depth) const {
     return ok_ && depth <= static_cast<std::size_t>(kMaxLevels - levels);

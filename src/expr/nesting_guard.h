@@ -8,7 +8,7 @@
 namespace lapdesk {
 
 class NestingGuard {
-public:
+  public:
     // The stack budget counts from the outermost guard; a guard with a
     // smaller budget fails before the evaluator's own nesting does.
     static constexpr std::size_t kStackBudget = 3u << 20;
@@ -24,7 +24,7 @@ public:
     // too many: a text nested that deep can fail before any work on it.
     bool Admits(std::size_t depth) const;
 
-private:
+  private:
     bool ok_;
 };
 

@@ -40,7 +40,9 @@ bool PlainScope::ReadVariable(Evaluator& evaluator, std::string_view name,
     return true;
 }
 
-bool PlainScope::CallUserFunction(Evaluator&, std::string_view, Complex&) { return false; }
+bool PlainScope::CallUserFunction(Evaluator&, std::string_view, Complex&) {
+    return false;
+}
 
 bool PlainScope::CallMatrixFunction(std::size_t index, std::span<const std::string_view> arguments,
                                     Complex& value) {

@@ -12,7 +12,7 @@
 namespace lapdesk {
 
 class PlainScope : public NameScope {
-public:
+  public:
     void SetScalar(const std::string& name, Complex value);
     void SetArray(const std::string& name, ComplexArray array);
 
@@ -25,7 +25,7 @@ public:
     bool CallMatrixFunction(std::size_t index, std::span<const std::string_view> arguments,
                             Complex& value) override;
 
-private:
+  private:
     std::map<std::string, ComplexArray, std::less<>> arrays_;  // a scalar is a 1x1 array
     std::optional<ComplexArray> lastArray_;
 };

@@ -6,8 +6,12 @@ namespace lapdesk {
 
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || c == '\t'; }
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t';
+}
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 // Index of the ")" that closes the "(" at `open`, npos when unmatched.
 std::size_t MatchingBracket(std::string_view text, std::size_t open) {
@@ -23,7 +27,8 @@ std::size_t MatchingBracket(std::string_view text, std::size_t open) {
 // it follows an operator character (a signed factor) or the "E" of a number.
 bool SignBelongsToOperand(std::string_view text, std::size_t pos) {
     std::size_t i = pos;
-    while (i > 0 && IsBlank(text[i - 1])) --i;
+    while (i > 0 && IsBlank(text[i - 1]))
+        --i;
     if (i == 0) return false;
     const char before = text[i - 1];
     if (before == '*' || before == '/' || before == '^') return true;
@@ -45,24 +50,29 @@ bool SignBelongsToOperand(std::string_view text, std::size_t pos) {
 }  // namespace
 
 std::string_view TrimLeft(std::string_view s) {
-    while (!s.empty() && IsBlank(s.front())) s.remove_prefix(1);
+    while (!s.empty() && IsBlank(s.front()))
+        s.remove_prefix(1);
     return s;
 }
 
 std::string_view TrimRight(std::string_view s) {
-    while (!s.empty() && IsBlank(s.back())) s.remove_suffix(1);
+    while (!s.empty() && IsBlank(s.back()))
+        s.remove_suffix(1);
     return s;
 }
 
-std::string_view Trim(std::string_view s) { return TrimRight(TrimLeft(s)); }
+std::string_view Trim(std::string_view s) {
+    return TrimRight(TrimLeft(s));
+}
 
 std::size_t CharInSet(char c, std::string_view set) {
     const std::size_t pos = set.find(c);
     return pos == std::string_view::npos ? 0 : pos + 1;
 }
 
-bool SplitOperand(std::string_view& text, std::string_view ops, std::string_view& operand) {
-    for (std::size_t i = 0; i < text.size(); ++i) {
+bool SplitOperand(std::string_view& text, std::string_view ops, std::string_view& operand,
+                  std::size_t from) {
+    for (std::size_t i = from; i < text.size(); ++i) {
         const char c = text[i];
         if (c == '(') {
             const std::size_t close = MatchingBracket(text, i);
@@ -110,7 +120,8 @@ std::size_t BracketDepth(std::string_view text) {
 }
 
 bool BracketClosesAtEnd(std::string_view text, std::size_t open) {
-    return open < text.size() && text[open] == '(' && MatchingBracket(text, open) == text.size() - 1;
+    return open < text.size() && text[open] == '(' &&
+           MatchingBracket(text, open) == text.size() - 1;
 }
 
 std::size_t FindTopLevel(std::string_view text, char c) {

@@ -18,9 +18,10 @@ std::size_t CharInSet(char c, std::string_view set);
 // Cuts the leading operand off the text: it ends at the first character of
 // `ops` outside brackets. A sign that follows an operator character (2*-3,
 // 2^-1) or is the exponent sign of a number (1E-3) belongs to the operand.
-// The text keeps the rest, beginning with the operator. False on an
-// unmatched bracket.
-bool SplitOperand(std::string_view& text, std::string_view ops, std::string_view& operand);
+// The text keeps the rest, beginning with the operator. The scan for the
+// operator starts at `from`. False on an unmatched bracket.
+bool SplitOperand(std::string_view& text, std::string_view ops, std::string_view& operand,
+                  std::size_t from = 0);
 
 // Cuts at every `separator` outside brackets; false on unbalanced brackets.
 bool SplitTopLevel(std::string_view text, char separator, std::vector<std::string_view>& pieces);

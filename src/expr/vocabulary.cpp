@@ -10,40 +10,40 @@ namespace lapdesk {
 
 namespace {
 
-char Lower(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
+char Lower(char c) {
+    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
+}
 
 std::vector<OperatorSynonym> OperatorSynonyms() {
     // Two-character operators come before their one-character prefixes, so
     // replacing in this order never splits "<=", ">=", "=<", "=>", "<>", "><".
-    return {{" And ", ".And."}, {" & ", ".And."}, {" Or ", ".Or."},  {" ~ ", ".Or."},
-            {"Not ", ".Not."},  {"! ", ".Not."},  {"!=", ".NE."},    {"<>", ".NE."},
-            {"><", ".NE."},     {"<=", ".LE."},   {"=<", ".LE."},    {">=", ".GE."},
-            {"=>", ".GE."},     {">", ".GT."},    {"<", ".LT."},     {"=", ".EQ."}};
+    return {{" And ", ".And."}, {" & ", ".And."}, {" Or ", ".Or."}, {" ~ ", ".Or."},
+            {"Not ", ".Not."},  {"! ", ".Not."},  {"!=", ".NE."},   {"<>", ".NE."},
+            {"><", ".NE."},     {"<=", ".LE."},   {"=<", ".LE."},   {">=", ".GE."},
+            {"=>", ".GE."},     {">", ".GT."},    {"<", ".LT."},    {"=", ".EQ."}};
 }
 
 std::vector<CanonicalOperator> CanonicalOperators() {
-    return {{".And.", ".And.,\" ＆ \""}, {".Or.", ".Or.,\" ~ \""}, {".Not.", ".Not.,\"! \""},
-            {".NE.", ".NE.,\"!=\",\"><\""}, {".LE.", ".LE.,\"=<\""}, {".GE.", ".GE.,\"=>\""},
-            {".GT.", ".GT."}, {".LT.", ".LT."}, {".EQ.", ".EQ."}};
+    return {{".And.", ".And.,\" ＆ \""},
+            {".Or.", ".Or.,\" ~ \""},
+            {".Not.", ".Not.,\"! \""},
+            {".NE.", ".NE.,\"!=\",\"><\""},
+            {".LE.", ".LE.,\"=<\""},
+            {".GE.", ".GE.,\"=>\""},
+            {".GT.", ".GT."},
+            {".LT.", ".LT."},
+            {".EQ.", ".EQ."}};
 }
 
 std::vector<StatementKeyword> Keywords() {
-    return {{"Global", 3},        {"Dim", 2},
-            {"Call", 4},          {"For", 5},
-            {"Exit For", 7},      {"ExitFor", 7},
-            {"Next", 6},          {"Do", 8},
-            {"ExitDo", 10},       {"Exit Do", 10},
-            {"Loop", 9},          {"While", 24},
-            {"Until", 23},        {"If", 11},
-            {"ElseIf", 13},       {"Else If", 13},
-            {"Else", 12},         {"EndIf", 14},
-            {"End If", 14},       {"Select", 18},
-            {"CaseElse", 20},     {"Case Else", 20},
-            {"Case", 19},         {"EndSelect", 21},
-            {"End Select", 21},   {"Function", 16},
-            {"ExitFunction", 17}, {"Exit Function", 17},
-            {"EndFunction", 1},   {"End Function", 1},
-            {"Return", 15},       {"End", 1}};
+    return {{"Global", 3},      {"Dim", 2},          {"Call", 4},          {"For", 5},
+            {"Exit For", 7},    {"ExitFor", 7},      {"Next", 6},          {"Do", 8},
+            {"ExitDo", 10},     {"Exit Do", 10},     {"Loop", 9},          {"While", 24},
+            {"Until", 23},      {"If", 11},          {"ElseIf", 13},       {"Else If", 13},
+            {"Else", 12},       {"EndIf", 14},       {"End If", 14},       {"Select", 18},
+            {"CaseElse", 20},   {"Case Else", 20},   {"Case", 19},         {"EndSelect", 21},
+            {"End Select", 21}, {"Function", 16},    {"ExitFunction", 17}, {"Exit Function", 17},
+            {"EndFunction", 1}, {"End Function", 1}, {"Return", 15},       {"End", 1}};
 }
 
 std::vector<std::string> KeywordMenu() {
@@ -76,16 +76,27 @@ std::vector<std::string> KeywordMenu() {
 enum ConstantGroup : std::int16_t { kPi, kTwoPi, kHalfPi, kE, kImaginaryUnit, kRandom, kRandomize };
 
 std::vector<NamedConstant> Constants() {
-    return {{"π", kPi},         {"PAI", kPi},          {"2π", kTwoPi},     {"DPI", kTwoPi},
-            {"DPaI", kTwoPi},   {"2Pai", kTwoPi},      {"0.5π", kHalfPi},  {"HPI", kHalfPi},
-            {"HPaI", kHalfPi},  {"0.5PaI", kHalfPi},   {"Exp1", kE},       {"1i", kImaginaryUnit},
-            {"1j", kImaginaryUnit}, {"Random", kRandom}, {"Randomize", kRandomize}};
+    return {{"π", kPi},
+            {"PAI", kPi},
+            {"2π", kTwoPi},
+            {"DPI", kTwoPi},
+            {"DPaI", kTwoPi},
+            {"2Pai", kTwoPi},
+            {"0.5π", kHalfPi},
+            {"HPI", kHalfPi},
+            {"HPaI", kHalfPi},
+            {"0.5PaI", kHalfPi},
+            {"Exp1", kE},
+            {"1i", kImaginaryUnit},
+            {"1j", kImaginaryUnit},
+            {"Random", kRandom},
+            {"Randomize", kRandomize}};
 }
 
 std::vector<std::string> ConstantHelp() {
     // The third line begins with "2π," although it describes π/2; it is kept so.
-    return {"π,Pai：3.1415...",        "2π,DPai,DPi：6.2831...", "2π,0.5π,0.5Pai,HPai,HPi：1.570...",
-            "Exp1：ｅ=2.718....",      "1i,1j：Sqrt(-1)",        "Random：乱数",
+    return {"π,Pai：3.1415...",     "2π,DPai,DPi：6.2831...", "2π,0.5π,0.5Pai,HPai,HPi：1.570...",
+            "Exp1：ｅ=2.718....",   "1i,1j：Sqrt(-1)",        "Random：乱数",
             "Randomize：乱数初期化"};
 }
 
@@ -119,15 +130,17 @@ std::vector<ScalarFunction> ScalarFunctions() {
 }
 
 std::vector<MatrixFunction> MatrixFunctions() {
-    return {
-        {"Gauss(", "'  書式：X=Gauss(A,B) → X(i)=Inv{A(i,j)}･B(j)", "'連立方程式 A(i,j)･X(j)=B(i) の解"},
-        {"MatxVec(", "'  書式：C=MatxVec(A,B) → C(i)=ΣA(i,k)･B(k)", "'マトリクス A とベクトル B の積"},
-        {"MatxMat(", "'  書式：C=MatxMat(A,B) → C(i,j)=ΣA(i,k)･B(k,j)",
-         "'マトリクス A とマトリクス B の積"},
-        {"MatI1(", "'  書式：I1=MatI1(A) → I1=ΣA(i,i)", "'マトリクス A の第一不変量"},
-        {"MatJ2(", "'  書式：J2=MatJ2(A) → J2=ΣΣA(i,j)･B(i,j)", "'マトリクス A の偏差成分の第二不変量"},
-        {"MatI3(", "'  書式：I3=MatI3(A) → I3=|A(i,j)|", "'マトリクス A の第三不変量"},
-        {"INVMAT(", "'  書式：InvA=MatInv(A) → InvA(i,j)=Inv{A(i,j)}", "'逆行列"}};
+    return {{"Gauss(", "'  書式：X=Gauss(A,B) → X(i)=Inv{A(i,j)}･B(j)",
+             "'連立方程式 A(i,j)･X(j)=B(i) の解"},
+            {"MatxVec(", "'  書式：C=MatxVec(A,B) → C(i)=ΣA(i,k)･B(k)",
+             "'マトリクス A とベクトル B の積"},
+            {"MatxMat(", "'  書式：C=MatxMat(A,B) → C(i,j)=ΣA(i,k)･B(k,j)",
+             "'マトリクス A とマトリクス B の積"},
+            {"MatI1(", "'  書式：I1=MatI1(A) → I1=ΣA(i,i)", "'マトリクス A の第一不変量"},
+            {"MatJ2(", "'  書式：J2=MatJ2(A) → J2=ΣΣA(i,j)･B(i,j)",
+             "'マトリクス A の偏差成分の第二不変量"},
+            {"MatI3(", "'  書式：I3=MatI3(A) → I3=|A(i,j)|", "'マトリクス A の第三不変量"},
+            {"INVMAT(", "'  書式：InvA=MatInv(A) → InvA(i,j)=Inv{A(i,j)}", "'逆行列"}};
 }
 
 Vocabulary& Tables() {
@@ -165,8 +178,8 @@ const Vocabulary& GetVocabulary() {
 }
 
 bool SameWord(std::string_view a, std::string_view b) {
-    return a.size() == b.size() &&
-           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Lower(x) == Lower(y); });
+    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
+                                              [](char x, char y) { return Lower(x) == Lower(y); });
 }
 
 bool StartsWithWord(std::string_view text, std::string_view word) {
@@ -194,12 +207,18 @@ std::optional<Complex> ConstantValue(std::string_view name) {
         if (!SameWord(name, constant.name)) continue;
         const double pi = 4.0 * std::atan(1.0);
         switch (constant.group) {
-            case kPi: return Complex{pi, 0.0};
-            case kTwoPi: return Complex{2.0 * pi, 0.0};
-            case kHalfPi: return Complex{pi / 2.0, 0.0};
-            case kE: return CplExp({1.0, 0.0});
-            case kImaginaryUnit: return Complex{0.0, 1.0};
-            case kRandom: return Complex{NextRandom(), 0.0};
+            case kPi:
+                return Complex{pi, 0.0};
+            case kTwoPi:
+                return Complex{2.0 * pi, 0.0};
+            case kHalfPi:
+                return Complex{pi / 2.0, 0.0};
+            case kE:
+                return CplExp({1.0, 0.0});
+            case kImaginaryUnit:
+                return Complex{0.0, 1.0};
+            case kRandom:
+                return Complex{NextRandom(), 0.0};
             case kRandomize:
                 ReseedRandom();
                 return Complex{NextRandom(), 0.0};
@@ -212,10 +231,12 @@ bool IsReservedWord(std::string_view name) {
     if (name.empty() || (name.front() >= '0' && name.front() <= '9')) return false;
     const Vocabulary& v = GetVocabulary();
     const auto matches = [&](std::string_view word) { return SameWord(name, word); };
-    return std::any_of(v.keywords.begin(), v.keywords.end(), [&](auto& k) { return matches(k.word); }) ||
+    return std::any_of(v.keywords.begin(), v.keywords.end(),
+                       [&](auto& k) { return matches(k.word); }) ||
            std::any_of(v.operatorSynonyms.begin(), v.operatorSynonyms.end(),
                        [&](auto& o) { return matches(o.synonym) || matches(o.canonical); }) ||
-           std::any_of(v.constants.begin(), v.constants.end(), [&](auto& c) { return matches(c.name); }) ||
+           std::any_of(v.constants.begin(), v.constants.end(),
+                       [&](auto& c) { return matches(c.name); }) ||
            std::any_of(v.scalarFunctions.begin(), v.scalarFunctions.end(),
                        [&](auto& f) { return matches(f.name); }) ||
            std::any_of(v.matrixFunctions.begin(), v.matrixFunctions.end(),

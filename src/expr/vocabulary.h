@@ -34,11 +34,11 @@ struct NamedConstant {
 };
 
 struct ScalarFunction {
-    std::string name;    // with its opening bracket: "Sin("
-    std::int16_t code;   // handed to CallScalarFunction; >= 1000 evaluates a condition
+    std::string name;   // with its opening bracket: "Sin("
+    std::int16_t code;  // handed to CallScalarFunction; >= 1000 evaluates a condition
     int minArguments;
     int maxArguments;
-    std::string help;    // empty when the row shares the line above
+    std::string help;  // empty when the row shares the line above
 };
 
 struct MatrixFunction {

@@ -25,12 +25,19 @@ void ClsCode::SetPageName(std::string name) {
 void ClsCode::SetAnalized(bool analized) {
     analized_ = analized;
     if (pageIndex_ != -1 || analized) return;
-    for (std::int16_t p = 0; p < session_.PageCount(); ++p) session_.Page(p).analized_ = false;
+    for (std::int16_t p = 0; p < session_.PageCount(); ++p)
+        session_.Page(p).analized_ = false;
 }
 
-std::int16_t ClsCode::NumofMemory() const { return static_cast<std::int16_t>(memory_.size()); }
-std::int16_t ClsCode::NumofArg() const { return static_cast<std::int16_t>(arguments_.size()); }
-std::int16_t ClsCode::LineNum() const { return static_cast<std::int16_t>(lines_.size()); }
+std::int16_t ClsCode::NumofMemory() const {
+    return static_cast<std::int16_t>(memory_.size());
+}
+std::int16_t ClsCode::NumofArg() const {
+    return static_cast<std::int16_t>(arguments_.size());
+}
+std::int16_t ClsCode::LineNum() const {
+    return static_cast<std::int16_t>(lines_.size());
+}
 
 std::string ClsCode::Code(std::int16_t i, std::int16_t& lnNo) const {
     if (i < 0 || i >= LineNum()) return {};
@@ -96,8 +103,8 @@ void ClsCode::ACalcuWithMemoryStore(std::string_view expression, std::string_vie
             }
             index = AppendVariable(parsed.name, 0, 0, 0);
         }
-        StatementCode code{"M", index, static_cast<std::int16_t>(parsed.subscripts.size()), "", "",
-                           std::string(Trim(expression))};
+        StatementCode code{"M", index, static_cast<std::int16_t>(parsed.subscripts.size()),
+                           "",  "",    std::string(Trim(expression))};
         if (!parsed.subscripts.empty()) code.Subscript1 = parsed.subscripts[0];
         if (parsed.subscripts.size() > 1) code.Subscript2 = parsed.subscripts[1];
         Complex assigned;

@@ -20,7 +20,7 @@ class Interpreter;
 class Evaluator;
 
 class ClsCode : public NameScope {
-public:
+  public:
     explicit ClsCode(Interpreter& session);
 
     const std::string& PageName() const { return pageName_; }
@@ -99,7 +99,7 @@ public:
     bool CallMatrixFunction(std::size_t index, std::span<const std::string_view> arguments,
                             Complex& value) override;
 
-private:
+  private:
     enum class Flow { Normal, End, Fail };  // End: the page finished early (End, Return)
 
     // Memory (code_page_memory.cpp).
@@ -112,8 +112,11 @@ private:
     // The variable a lookup refers to, and the parameter slot it went through.
     MemoryRec* Referent(const Found& found, CallArgument** slot);
     bool EvalSubscript(Evaluator& evaluator, std::string_view text, std::int16_t& index);
-    bool ElementIndex(Evaluator& evaluator, const MemoryRec& rec,
-                      std::span<const std::string_view> subscripts, std::int32_t& flat);
+    // The variable a lookup refers to and the flat index of the element its
+    // subscripts address; nullptr when a subscript fails or the element
+    // does not exist.
+    MemoryRec* Element(Evaluator& evaluator, const Found& found,
+                       std::span<const std::string_view> subscripts, std::int32_t& flat);
 
     // Analysis (code_page_analysis.cpp).
     bool Fail(std::string reason);

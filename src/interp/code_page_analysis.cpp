@@ -4,12 +4,13 @@
 #include <string>
 
 #include "expr/keywords.h"
+#include "expr/nesting_guard.h"
 #include "expr/text_scan.h"
 #include "expr/vocabulary.h"
 #include "interp/code_page.h"
-#include "values/fault.h"
 #include "interp/interpreter.h"
 #include "interp/text_helpers.h"
+#include "values/fault.h"
 
 namespace lapdesk {
 
@@ -19,7 +20,9 @@ std::int16_t Classify(const CodeLine& line, std::string_view& rest) {
     return ClassifyStatement(line.Text, rest);
 }
 
-std::int16_t Count(std::size_t size) { return ToInt16(static_cast<long long>(size)); }
+std::int16_t Count(std::size_t size) {
+    return ToInt16(static_cast<long long>(size));
+}
 
 // [While cond | Until cond] after Do or Loop.
 bool ConditionWord(std::string_view rest, std::string& word, std::string& condition) {
@@ -95,6 +98,9 @@ bool ClsCode::APc01CodeAnalize() {
 bool ClsCode::AnalyseLine(std::int16_t& i) {
     errorText_.clear();
     errorLine_ = i;
+    // Blocks nest by recursion here: a program nested too deep fails cleanly.
+    NestingGuard guard;
+    if (!guard.ok()) return Fail(RuntimeFault(FaultCode::StackSpace).description());
     lines_[static_cast<std::size_t>(i)].Kind = -1;
     const std::string text = lines_[static_cast<std::size_t>(i)].Text;
     std::string_view rest;
@@ -122,20 +128,32 @@ bool ClsCode::AnalyseLine(std::int16_t& i) {
             MarkLine(i, code, entry, -999);
             return true;
         }
-        case kw::For: return AnalyseFor(i, rest);
-        case kw::Do: return AnalyseDo(i, rest);
-        case kw::If: return AnalyseIf(i, rest);
-        case kw::Select: return AnalyseSelect(i, rest);
-        case kw::Next: return Fail("Forが無い");
-        case kw::Loop: return Fail("Doが無い");
-        case kw::EndIf: return Fail("IFが無い");
-        case kw::EndSelect: return Fail("SelectCaseが無い");
+        case kw::For:
+            return AnalyseFor(i, rest);
+        case kw::Do:
+            return AnalyseDo(i, rest);
+        case kw::If:
+            return AnalyseIf(i, rest);
+        case kw::Select:
+            return AnalyseSelect(i, rest);
+        case kw::Next:
+            return Fail("Forが無い");
+        case kw::Loop:
+            return Fail("Doが無い");
+        case kw::EndIf:
+            return Fail("IFが無い");
+        case kw::EndSelect:
+            return Fail("SelectCaseが無い");
         case kw::ExitFor:
-        case kw::ExitDo: return AnalyseExit(i, code);
+        case kw::ExitDo:
+            return AnalyseExit(i, code);
         case kw::Return:
         case kw::Function:
-        case kw::ExitFunction: MarkLine(i, code, -999, -999); return true;
-        default: break;
+        case kw::ExitFunction:
+            MarkLine(i, code, -999, -999);
+            return true;
+        default:
+            break;
     }
     bool isAssignment = false;
     if (!AnalyseAssignment(text, isAssignment)) return false;
@@ -349,6 +367,7 @@ bool ClsCode::AnalyseSelect(std::int16_t& i, std::string_view rest) {
         }
         // Case 1, 3 tests selector=1 Or selector=3; a value with "=" in it
         // (>=5) follows the selector directly.
+        errorLine_ = i;
         std::vector<std::string_view> values;
         if (!SplitTopLevel(after, ',', values)) return Fail("Case文値");
         std::string condition;

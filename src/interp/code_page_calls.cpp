@@ -7,9 +7,9 @@
 #include "expr/text_scan.h"
 #include "expr/vocabulary.h"
 #include "interp/code_page.h"
-#include "values/fault.h"
 #include "interp/interpreter.h"
 #include "interp/text_helpers.h"
+#include "values/fault.h"
 #include "values/number_text.h"
 
 namespace lapdesk {
@@ -39,8 +39,9 @@ bool ClsCode::APc03DefineFunction(std::string_view header) {
     std::string_view rest;
     std::string_view name;
     std::vector<std::string_view> parameters;
+    // A function named "Imidate" would take the place of the global page.
     if (LineNum() != 1 || ClassifyStatement(header, rest) != kw::Function ||
-        !ParseCall(rest, name, parameters) || IsReservedWord(name)) {
+        !ParseCall(rest, name, parameters) || IsReservedWord(name) || SameWord(name, "Imidate")) {
         return false;
     }
     std::vector<CallArgument> slots;
@@ -106,8 +107,8 @@ bool ClsCode::BindArgument(std::string_view text, CallArgument& argument) {
         const Found found = AzIsVariableSearch(parsed.name);
         if (!found.kind.empty()) {
             argument.Kind = (found.kind == "I" || found.kind == "E" || found.kind == "A") ? "A"
-                            : found.kind == "G"                                     ? "G"
-                                                                                    : "M";
+                            : found.kind == "G"                                           ? "G"
+                                                                                          : "M";
             argument.Page = found.page;
             argument.Index = argument.Kind == "A" ? found.slot : found.index;
             argument.SubscriptCount = ToInt16(static_cast<long long>(parsed.subscripts.size()));
@@ -144,23 +145,27 @@ bool ClsCode::PrepareArgument(Evaluator& evaluator, CallArgument& argument, std:
         argument.Index = passed.Index;
         argument.Flat = passed.Flat;
     }
-    if (argument.Page == nullptr || argument.Index < 0 || argument.Index >= argument.Page->NumofMemory()) {
+    if (argument.Page == nullptr || argument.Index < 0 ||
+        argument.Index >= argument.Page->NumofMemory()) {
         reason = "行目：引数式 " + argument.Text + " 実行エラー";
         return false;
     }
-    const MemoryRec& rec = argument.Page->Memory(argument.Index);
-    argument.NI = rec.NI;
-    argument.NJ = rec.NJ;
-    argument.Ln = rec.Ln;
-    if (argument.SubscriptCount == 0 || argument.Flat >= 0) return true;
+    // Subscripts first: they may run a function page whose analysis adds
+    // variables and so moves the variable record.
+    const bool element = argument.SubscriptCount > 0 && argument.Flat < 0;
     std::int16_t index[2] = {0, 0};
     const std::string subscripts[2] = {argument.Subscript1, argument.Subscript2};
-    for (int k = 0; k < argument.SubscriptCount && k < 2; ++k) {
+    for (int k = 0; element && k < argument.SubscriptCount && k < 2; ++k) {
         if (!EvalSubscript(evaluator, subscripts[k], index[k])) {
             reason = "行目：引数添字式 " + argument.Text + " 実行エラー";
             return false;
         }
     }
+    const MemoryRec& rec = argument.Page->Memory(argument.Index);
+    argument.NI = rec.NI;
+    argument.NJ = rec.NJ;
+    argument.Ln = rec.Ln;
+    if (!element) return true;
     const std::int32_t flat = (rec.NI + 1) * index[1] + index[0];
     if (flat < 0 || flat > rec.Ln) {
         reason = "行目：引数添字値 " + argument.Text + " 範囲外";

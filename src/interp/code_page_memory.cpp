@@ -16,7 +16,9 @@ namespace lapdesk {
 namespace {
 
 // A flat index of 65535 (the 16-bit -1 read as unsigned) asks for (i, j).
-bool ComputesFlatIndex(std::int32_t flat) { return flat == -1 || flat > 65534; }
+bool ComputesFlatIndex(std::int32_t flat) {
+    return flat == -1 || flat > 65534;
+}
 
 }  // namespace
 
@@ -96,16 +98,25 @@ ClsCode::Found ClsCode::AzIsVariableSearch(std::string_view name) {
     const bool cs = session_.caseSensitive();
     for (std::int16_t k = 0; k < NumofMemory(); ++k) {
         const MemoryRec& rec = memory_[static_cast<std::size_t>(k)];
-        if (SameName(rec.Name, name, cs)) return {"M", this, k, -1, rec.Typ, rec.NI, rec.NJ, rec.Values[0]};
+        if (SameName(rec.Name, name, cs))
+            return {"M", this, k, -1, rec.Typ, rec.NI, rec.NJ, rec.Values[0]};
     }
     if (pageIndex_ != -1) {
         for (std::int16_t s = 0; s < NumofArg(); ++s) {
             CallArgument& slot = arguments_[static_cast<std::size_t>(s)];
             if (!SameName(slot.Name, name, cs)) continue;
-            Found found{slot.IsValue() ? "I" : (slot.Flat >= 0 ? "E" : "A"), slot.Page, slot.Index, s,
-                        slot.SubscriptCount, slot.NI, slot.NJ, slot.Value};
+            Found found{slot.IsValue() ? "I" : (slot.Flat >= 0 ? "E" : "A"),
+                        slot.Page,
+                        slot.Index,
+                        s,
+                        slot.SubscriptCount,
+                        slot.NI,
+                        slot.NJ,
+                        slot.Value};
             CallArgument* through = nullptr;
-            if (const MemoryRec* rec = Referent(found, &through)) {
+            const MemoryRec* rec = Referent(found, &through);
+            // The element may be gone: its array can shrink while bound.
+            if (rec != nullptr && slot.Flat <= rec->Ln) {
                 found.value = rec->Values[static_cast<std::size_t>(std::max(slot.Flat, 0))];
             }
             return found;
@@ -113,7 +124,13 @@ ClsCode::Found ClsCode::AzIsVariableSearch(std::string_view name) {
         ClsCode& global = session_.ImmediatePage();
         for (std::int16_t k = 0; k < global.NumofMemory(); ++k) {
             if (!SameName(global.MemoryName(k), name, cs)) continue;
-            return {"G", &global, k, -1, global.MemoryTyp(k), global.MemoryNI(k), global.MemoryNJ(k),
+            return {"G",
+                    &global,
+                    k,
+                    -1,
+                    global.MemoryTyp(k),
+                    global.MemoryNI(k),
+                    global.MemoryNJ(k),
                     global.memory_[static_cast<std::size_t>(k)].Values[0]};
         }
     } else if (session_.PageCount() > 0) {
@@ -153,18 +170,23 @@ bool ClsCode::EvalSubscript(Evaluator& evaluator, std::string_view text, std::in
     return true;
 }
 
-// The flat index of an element; only flat <= Ln is checked, so a subscript
-// past its own bound that still falls inside the array is accepted.
-bool ClsCode::ElementIndex(Evaluator& evaluator, const MemoryRec& rec,
-                           std::span<const std::string_view> subscripts, std::int32_t& flat) {
+// Only flat <= Ln is checked, so a subscript past its own bound that still
+// falls inside the array is accepted. The subscripts are evaluated before the
+// variable is looked at: one may run a function page whose analysis adds
+// variables, which moves every variable record.
+MemoryRec* ClsCode::Element(Evaluator& evaluator, const Found& found,
+                            std::span<const std::string_view> subscripts, std::int32_t& flat) {
     std::int16_t index[2] = {0, 0};
     for (std::size_t k = 0; k < subscripts.size() && k < 2; ++k) {
-        if (!EvalSubscript(evaluator, subscripts[k], index[k])) return false;
+        if (!EvalSubscript(evaluator, subscripts[k], index[k])) return nullptr;
     }
-    flat = (rec.NI + 1) * index[1] + index[0];
-    if (flat > rec.Ln) return false;
+    CallArgument* slot = nullptr;
+    MemoryRec* rec = Referent(found, &slot);
+    if (rec == nullptr) return nullptr;
+    flat = (rec->NI + 1) * index[1] + index[0];
+    if (flat > rec->Ln) return nullptr;
     if (flat < 0) RaiseFault(FaultCode::SubscriptOutOfRange);
-    return true;
+    return rec;
 }
 
 bool ClsCode::ReadVariable(Evaluator& evaluator, std::string_view name,
@@ -173,15 +195,16 @@ bool ClsCode::ReadVariable(Evaluator& evaluator, std::string_view name,
     if (found.kind.empty()) return false;
     // A literal, expression or single element passed as argument is read as
     // it is, without subscripts.
+    CallArgument* slot = nullptr;
+    const MemoryRec* rec = Referent(found, &slot);
+    if (found.kind == "E" && (rec == nullptr || slot->Flat > rec->Ln)) return false;
     if (found.kind == "I" || found.kind == "E") {
         value = found.value;
         return true;
     }
-    CallArgument* slot = nullptr;
-    const MemoryRec* rec = Referent(found, &slot);
-    if (rec == nullptr) return false;
     std::int32_t flat = 0;
-    if (!ElementIndex(evaluator, *rec, subscripts, flat)) return false;
+    rec = Element(evaluator, found, subscripts, flat);
+    if (rec == nullptr) return false;
     value = rec->Values[static_cast<std::size_t>(flat)];
     return true;
 }
@@ -197,7 +220,8 @@ bool ClsCode::CallMatrixFunction(std::size_t index, std::span<const std::string_
         arrays.push_back(ComplexArray{rec->NI, rec->NJ, rec->Values});
     }
     std::vector<const ComplexArray*> args;
-    for (const ComplexArray& array : arrays) args.push_back(&array);
+    for (const ComplexArray& array : arrays)
+        args.push_back(&array);
     std::optional<ComplexArray> array;
     if (!ApplyMatrixFunction(index, args, value, array)) return false;
     if (array) arrayResult_ = std::move(array);
@@ -224,7 +248,8 @@ bool ClsCode::DeclareItem(std::string_view item) {
     std::int16_t bounds[2] = {0, 0};
     for (std::size_t k = 0; k < parsed.subscripts.size(); ++k) {
         if (Trim(parsed.subscripts[k]).empty()) return false;
-        if (!EvalSubscript(evaluator, parsed.subscripts[k], bounds[k]) || bounds[k] < 0) return false;
+        if (!EvalSubscript(evaluator, parsed.subscripts[k], bounds[k]) || bounds[k] < 0)
+            return false;
     }
     const auto typ = static_cast<std::int16_t>(parsed.subscripts.size());
     const bool cs = session_.caseSensitive();

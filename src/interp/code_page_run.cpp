@@ -17,19 +17,24 @@ namespace lapdesk {
 
 namespace {
 
+// Nesting levels kept free below a call for the expressions and branches
+// that lead to the next call.
+constexpr std::size_t kLevelsBelowACall = 100;
+
 // Holds one level of user-function nesting for the length of a page run. Its
-// stack budget is below the evaluator's, so runaway recursion ends here,
-// with one message, rather than as an expression error at every level.
+// stack budget is below the evaluator's, and it keeps levels free for the
+// evaluator, so runaway recursion ends here, with one message, rather than
+// as an expression error at every level.
 class CallLevel {
-public:
+  public:
     explicit CallLevel(Interpreter& session)
         : session_(session), ok_(session.EnterCall()), stack_(NestingGuard::kStackBudget * 2 / 3) {}
     ~CallLevel() { session_.LeaveCall(); }
     CallLevel(const CallLevel&) = delete;
     CallLevel& operator=(const CallLevel&) = delete;
-    bool ok() const { return ok_ && stack_.ok(); }
+    bool ok() const { return ok_ && stack_.Admits(kLevelsBelowACall); }
 
-private:
+  private:
     Interpreter& session_;
     bool ok_;
     NestingGuard stack_;
@@ -104,18 +109,31 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
     Evaluator evaluator(*this);
     switch (current.Kind) {
         case kw::End:
-        case kw::ExitFunction: return Flow::End;
+        case kw::ExitFunction:
+            return Flow::End;
         case kw::Call: {
             Complex ignored;
             ok = RunCall(calls_[index], ignored);
             break;
         }
-        case kw::For: ok = RunFor(line, false); break;
-        case kw::Next: ok = RunFor(line, true); break;
-        case kw::ExitFor: line = fors_[index].NextLine; break;
-        case kw::Do: ok = RunDo(line, false); break;
-        case kw::Loop: ok = RunDo(line, true); break;
-        case kw::ExitDo: line = dos_[index].LoopLine; break;
+        case kw::For:
+            ok = RunFor(line, false);
+            break;
+        case kw::Next:
+            ok = RunFor(line, true);
+            break;
+        case kw::ExitFor:
+            line = fors_[index].NextLine;
+            break;
+        case kw::Do:
+            ok = RunDo(line, false);
+            break;
+        case kw::Loop:
+            ok = RunDo(line, true);
+            break;
+        case kw::ExitDo:
+            line = dos_[index].LoopLine;
+            break;
         case kw::If:
         case kw::Else:
         case kw::ElseIf: {
@@ -135,7 +153,8 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
         }
         case kw::Return: {
             // The value starts at the eighth character, after "Return ".
-            std::string_view text = current.Text.size() > 7 ? std::string_view(current.Text).substr(7) : "";
+            std::string_view text =
+                current.Text.size() > 7 ? std::string_view(current.Text).substr(7) : "";
             if (Trim(text).empty()) return Flow::End;
             text = TrimLeft(text);
             if (evaluator.EvalSum(text, valueArea_)) return Flow::End;
@@ -152,7 +171,8 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
             ok = Assign(statements_[index], assigned);
             break;
         }
-        default: break;
+        default:
+            break;
     }
     if (ok) return Flow::Normal;
     if (errorText_.empty()) errorText_ = evaluator.failure();
@@ -163,8 +183,8 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
 void ClsCode::ReportRunError(std::int16_t line, std::string_view reason) {
     if (session_.view().StopRequested()) return;  // a stop is not an error
     const std::string number = pageName_ + ": " + std::to_string(line + 1);
-    std::string message = reason.starts_with("行目") ? number + std::string(reason)
-                                                      : number + "行目実行エラー";
+    std::string message =
+        reason.starts_with("行目") ? number + std::string(reason) : number + "行目実行エラー";
     session_.view().Errmessage(message + std::string(kCrLf) + Line(line).Text);
 }
 
@@ -172,27 +192,29 @@ void ClsCode::ReportRunError(std::int16_t line, std::string_view reason) {
 // inside the body do not change the number of passes.
 bool ClsCode::RunFor(std::int16_t& line, bool isNext) {
     ForBlock& block = fors_[static_cast<std::size_t>(Line(line).CodeIndex)];
-    Complex& variable = Memory(block.VariableIndex).Values[0];
     if (isNext) {
         block.Counter = Checked(block.Counter + block.StepValue);
-        variable = {block.Counter, 0.0};
-        const bool again = block.StepValue > 0 ? block.Counter <= block.EndValue
-                                               : block.Counter >= block.EndValue;
+        Memory(block.VariableIndex).Values[0] = {block.Counter, 0.0};
+        const bool again =
+            block.StepValue > 0 ? block.Counter <= block.EndValue : block.Counter >= block.EndValue;
         if (again) line = block.ForLine;
         return true;
     }
     Evaluator evaluator(*this);
     Complex start, end, step;
-    std::string_view startText = block.StartText, endText = block.EndText, stepText = block.StepText;
+    std::string_view startText = block.StartText, endText = block.EndText,
+                     stepText = block.StepText;
     if (!evaluator.EvalSum(startText, start) || !evaluator.EvalSum(endText, end) ||
         !evaluator.EvalSum(stepText, step)) {
-        errorText_ = evaluator.failure();
+        if (errorText_.empty()) errorText_ = evaluator.failure();
         return false;
     }
     block.Counter = start.Re;
     block.EndValue = end.Re;
     block.StepValue = step.Re;
-    variable = {start.Re, 0.0};
+    // Looked up only now: a function called by the texts may have given the
+    // variable new storage (a matrix result).
+    Memory(block.VariableIndex).Values[0] = {start.Re, 0.0};
     const bool skip = step.Re > 0 ? start.Re > end.Re : start.Re < end.Re;
     if (skip) line = block.NextLine;
     return true;
@@ -222,6 +244,10 @@ ClsCode::Flow ClsCode::RunBranch(std::int16_t& line, const std::vector<std::int1
         line = Sub16(boundaries[k], 1);
         return Flow::Normal;
     }
+    // A taken branch runs one level deeper; past the limit the whole run
+    // ends with one message, as runaway calls do.
+    NestingGuard nesting;
+    if (!nesting.ok()) throw CallsTooDeep{};
     std::int16_t inner = 0;
     const Flow flow = RunLoop(inner, Add16(line, 1), Sub16(boundaries[k], 1));
     if (flow != Flow::Normal) return flow;
@@ -234,16 +260,19 @@ ClsCode::Flow ClsCode::RunBranch(std::int16_t& line, const std::vector<std::int1
 bool ClsCode::Condition(std::string_view text, bool& truth) {
     Evaluator evaluator(*this);
     if (evaluator.EvalCondition(text, truth)) return true;
-    errorText_ = evaluator.failure();
+    if (errorText_.empty()) errorText_ = evaluator.failure();
     return false;
 }
 
 bool ClsCode::Assign(const StatementCode& code, Complex& assigned) {
     Evaluator evaluator(*this);
     arrayResult_.reset();
+    errorText_.clear();
     std::string_view expression = code.Expression;
     if (!evaluator.EvalSum(expression, assigned)) {
-        errorText_ = evaluator.failure();
+        // A call inside the expression may have left why its argument
+        // failed; that reason is kept, as for a Call statement.
+        if (errorText_.empty()) errorText_ = evaluator.failure();
         return false;
     }
     if (code.TargetKind == "R") {
@@ -264,7 +293,10 @@ bool ClsCode::Assign(const StatementCode& code, Complex& assigned) {
     MemoryRec* rec = Referent(target, &slot);
     if (rec == nullptr) return false;
     std::size_t row = 0;
-    if (arrayResult_ && code.SubscriptCount == 0 && slot == nullptr &&
+    // A parameter bound to a whole variable (not to one element) passes the
+    // result on to that variable.
+    const bool wholeVariable = slot == nullptr || slot->Flat < 0;
+    if (arrayResult_ && code.SubscriptCount == 0 && wholeVariable &&
         IsWholeMatrixCall(code.Expression, row)) {
         // The target takes the result's dimensions and values.
         const ComplexArray& array = *arrayResult_;
@@ -273,15 +305,23 @@ bool ClsCode::Assign(const StatementCode& code, Complex& assigned) {
         rec->NJ = ToInt16(array.NJ);
         rec->Ln = Sub16(Mul16(Add16(rec->NI, 1), Add16(rec->NJ, 1)), 1);
         rec->Values = array.Values;
+        if (slot != nullptr) {
+            slot->NI = rec->NI;
+            slot->NJ = rec->NJ;
+            slot->Ln = rec->Ln;
+        }
         return true;
     }
     std::int32_t flat = 0;
     if (slot != nullptr && slot->Flat >= 0) {
         flat = slot->Flat;
+        if (flat > rec->Ln) return false;  // the array shrank while bound
     } else {
         const std::string_view subscripts[] = {code.Subscript1, code.Subscript2};
-        const std::span<const std::string_view> used(subscripts, static_cast<std::size_t>(code.SubscriptCount));
-        if (!ElementIndex(evaluator, *rec, used, flat)) {
+        const std::span<const std::string_view> used(subscripts,
+                                                     static_cast<std::size_t>(code.SubscriptCount));
+        rec = Element(evaluator, target, used, flat);
+        if (rec == nullptr) {
             if (errorText_.empty()) errorText_ = evaluator.failure();
             return false;
         }

@@ -51,7 +51,9 @@ bool BeginsFunction(std::string_view statement) {
 
 }  // namespace
 
-Interpreter::Interpreter(InterpreterView& view) : view_(&view) { InitVocabulary(); }
+Interpreter::Interpreter(InterpreterView& view) : view_(&view) {
+    InitVocabulary();
+}
 
 Interpreter::~Interpreter() = default;
 
@@ -63,11 +65,17 @@ ClsCode& Interpreter::ImmediatePage() {
     return *immediate_;
 }
 
-void Interpreter::RegisterGlobalPage(ClsCode& page) { immediate_ = &page; }
+void Interpreter::RegisterGlobalPage(ClsCode& page) {
+    immediate_ = &page;
+}
 
-std::int16_t Interpreter::PageCount() const { return static_cast<std::int16_t>(pages_.size()); }
+std::int16_t Interpreter::PageCount() const {
+    return static_cast<std::int16_t>(pages_.size());
+}
 
-ClsCode& Interpreter::Page(std::int16_t index) { return *pages_.at(static_cast<std::size_t>(index)); }
+ClsCode& Interpreter::Page(std::int16_t index) {
+    return *pages_.at(static_cast<std::size_t>(index));
+}
 
 ClsCode* Interpreter::FindPage(std::string_view name) {
     for (const auto& page : pages_) {
@@ -81,7 +89,9 @@ void Interpreter::SetProgramText(std::string text) {
     programText_ = std::move(text);
 }
 
-bool Interpreter::EnterCall() { return ++callDepth_ <= kMaxCallDepth; }
+bool Interpreter::EnterCall() {
+    return ++callDepth_ <= kMaxCallDepth;
+}
 
 bool Interpreter::RunProgram(double& re, double& im, bool eraseGlobals, bool run) {
     view_->HideHint();
@@ -119,7 +129,8 @@ bool Interpreter::CutProgram() {
     view_->ClearProgramList();
     pages_.clear();
     const std::vector<std::string> statements = CutStatements(programText_);
-    for (const std::string& statement : statements) view_->AddProgramListEntry(statement);
+    for (const std::string& statement : statements)
+        view_->AddProgramListEntry(statement);
     if (statements.empty()) return false;
     bool built = false;
     try {
@@ -167,7 +178,8 @@ bool Interpreter::BuildPages(const std::vector<std::string>& statements) {
 void Interpreter::EraseGlobals() {
     ImmediatePage().AEraseMemorys();
     view_->ClearMemoryDisplay();
-    for (const auto& page : pages_) page->AEraseMemorys();
+    for (const auto& page : pages_)
+        page->AEraseMemorys();
     programAnalysed_ = false;
 }
 

@@ -21,7 +21,7 @@ struct ImmediateResult {
 };
 
 class Interpreter {
-public:
+  public:
     explicit Interpreter(InterpreterView& view);
     ~Interpreter();
     Interpreter(const Interpreter&) = delete;
@@ -62,7 +62,7 @@ public:
     void LeaveCall() { --callDepth_; }
     bool Running() const { return callDepth_ > 0; }
 
-private:
+  private:
     bool BuildPages(const std::vector<std::string>& statements);
 
     InterpreterView* view_;

@@ -11,7 +11,7 @@
 namespace lapdesk {
 
 class InterpreterView {
-public:
+  public:
     virtual ~InterpreterView() = default;
 
     // Shows an error message; the window blocks here until it is dismissed.
@@ -26,7 +26,7 @@ public:
     virtual bool ProgramListVisible() const = 0;
     virtual void SelectProgramListEntry(std::int16_t index) = 0;
 
-    virtual void SetKai(const std::string& text) = 0;  // the answer/status field
+    virtual void SetKai(const std::string& text) = 0;    // the answer/status field
     virtual void ShowHint(const std::string& text) = 0;  // "Label5", made visible
     virtual void HideHint() = 0;
     virtual void SetPhaseColour(std::uint32_t bgr) = 0;  // "MessageBox" background, 0xBBGGRR

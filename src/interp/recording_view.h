@@ -10,7 +10,7 @@
 namespace lapdesk {
 
 class RecordingView : public InterpreterView {
-public:
+  public:
     std::vector<std::string> messages;
     std::vector<std::string> programList;
     std::string kai;

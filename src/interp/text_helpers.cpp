@@ -45,7 +45,8 @@ std::size_t FindWordNoCase(std::string_view text, std::string_view word) {
         const std::size_t at = pos - 1;
         const bool startsWord = at == 0 || !IsWordChar(static_cast<unsigned char>(text[at - 1]));
         const std::size_t end = at + word.size();
-        const bool endsWord = end >= text.size() || !IsWordChar(static_cast<unsigned char>(text[end]));
+        const bool endsWord =
+            end >= text.size() || !IsWordChar(static_cast<unsigned char>(text[end]));
         if (startsWord && endsWord) return pos;
     }
     return 0;

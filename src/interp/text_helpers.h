@@ -12,7 +12,8 @@ inline constexpr std::string_view kCrLf = "\r\n";
 
 // 1-based position of pattern in text at or after start, 0 when absent;
 // compare 0 = exact, 1 = ignoring ASCII letter case.
-std::size_t FindText(std::size_t start, std::string_view text, std::string_view pattern, int compare);
+std::size_t FindText(std::size_t start, std::string_view text, std::string_view pattern,
+                     int compare);
 std::size_t FindTextNoCase(std::string_view text, std::string_view pattern);
 std::size_t FindTextLastNoCase(std::string_view text, std::string_view pattern);
 

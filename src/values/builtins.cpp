@@ -20,7 +20,9 @@ const Complex& Arg(std::span<const Complex> args, std::size_t i) {
     return args[i];
 }
 
-Complex ToRadians(const Complex& a) { return CplScale(AngleUnit, a); }
+Complex ToRadians(const Complex& a) {
+    return CplScale(AngleUnit, a);
+}
 
 Complex ComplexSin(const Complex& z) {
     return {Checked(std::sin(z.Re) * std::cosh(z.Im)), Checked(std::cos(z.Re) * std::sinh(z.Im))};
@@ -98,44 +100,91 @@ Complex LogScaled(double base, const Complex& a) {
 
 }  // namespace
 
-double NextRandom() { return std::generate_canonical<double, 53>(Generator()); }
+double NextRandom() {
+    return std::generate_canonical<double, 53>(Generator());
+}
 
 void ReseedRandom() {
-    Generator().seed(static_cast<std::uint64_t>(
-        std::chrono::system_clock::now().time_since_epoch().count()));
+    Generator().seed(
+        static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count()));
 }
 
 bool CallScalarFunction(std::int16_t code, std::span<const Complex> args, Complex& result) {
     switch (code) {
-        case 0: result = Sin(Arg(args, 0)); break;
-        case 1: result = ComplexCos(ToRadians(Arg(args, 0))); break;
-        case 2: result = Tan(Arg(args, 0)); break;
+        case 0:
+            result = Sin(Arg(args, 0));
+            break;
+        case 1:
+            result = ComplexCos(ToRadians(Arg(args, 0)));
+            break;
+        case 2:
+            result = Tan(Arg(args, 0));
+            break;
         case 3:
-        case 4: result = Atan(Arg(args, 0)); break;
-        case 5: result = CplExp(Arg(args, 0)); break;
-        case 6: result = CplLog(Arg(args, 0)); break;
-        case 7: result = LogScaled(10.0, Arg(args, 0)); break;
-        case 8: result = LogScaled(2.0, Arg(args, 0)); break;
+        case 4:
+            result = Atan(Arg(args, 0));
+            break;
+        case 5:
+            result = CplExp(Arg(args, 0));
+            break;
+        case 6:
+            result = CplLog(Arg(args, 0));
+            break;
+        case 7:
+            result = LogScaled(10.0, Arg(args, 0));
+            break;
+        case 8:
+            result = LogScaled(2.0, Arg(args, 0));
+            break;
         case 9:
-        case 10: result = Sqrt(Arg(args, 0)); break;
-        case 11: result = Qbic(Arg(args, 0)); break;
-        case 12: result = ComplexSinh(Arg(args, 0)); break;
-        case 13: result = ComplexCosh(Arg(args, 0)); break;
-        case 14: result = Tanh(Arg(args, 0)); break;
-        case 15: result = {Arg(args, 0).Re, Arg(args, 1).Re}; break;
-        case 16: result = {Arg(args, 0).Re, -Arg(args, 0).Im}; break;
-        case 17: result = {Arg(args, 0).Re, 0.0}; break;
-        case 18: result = {Arg(args, 0).Im, 0.0}; break;
-        case 19: result = {CplAbs(Arg(args, 0)), 0.0}; break;
-        case 20: result = {CplArg(Arg(args, 0)), 0.0}; break;
-        case 21: result = Integer(Arg(args, 0)); break;
-        case 22: result = CplPow(Arg(args, 0), Arg(args, 1)); break;
-        case 23: result = {NextRandom(), 0.0}; break;
+        case 10:
+            result = Sqrt(Arg(args, 0));
+            break;
+        case 11:
+            result = Qbic(Arg(args, 0));
+            break;
+        case 12:
+            result = ComplexSinh(Arg(args, 0));
+            break;
+        case 13:
+            result = ComplexCosh(Arg(args, 0));
+            break;
+        case 14:
+            result = Tanh(Arg(args, 0));
+            break;
+        case 15:
+            result = {Arg(args, 0).Re, Arg(args, 1).Re};
+            break;
+        case 16:
+            result = {Arg(args, 0).Re, -Arg(args, 0).Im};
+            break;
+        case 17:
+            result = {Arg(args, 0).Re, 0.0};
+            break;
+        case 18:
+            result = {Arg(args, 0).Im, 0.0};
+            break;
+        case 19:
+            result = {CplAbs(Arg(args, 0)), 0.0};
+            break;
+        case 20:
+            result = {CplArg(Arg(args, 0)), 0.0};
+            break;
+        case 21:
+            result = Integer(Arg(args, 0));
+            break;
+        case 22:
+            result = CplPow(Arg(args, 0), Arg(args, 1));
+            break;
+        case 23:
+            result = {NextRandom(), 0.0};
+            break;
         case 24:
             ReseedRandom();
             result = {NextRandom(), 0.0};
             break;
-        default: return false;
+        default:
+            return false;
     }
     return true;
 }

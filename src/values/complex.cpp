@@ -52,9 +52,13 @@ Complex CplPow(const Complex& a, const Complex& b) {
     return CplExp(CplMul(b, CplLog(a)));
 }
 
-Complex CplNeg(const Complex& a) { return {-a.Re, -a.Im}; }
+Complex CplNeg(const Complex& a) {
+    return {-a.Re, -a.Im};
+}
 
-Complex CplScale(double x, const Complex& a) { return {Checked(x * a.Re), Checked(x * a.Im)}; }
+Complex CplScale(double x, const Complex& a) {
+    return {Checked(x * a.Re), Checked(x * a.Im)};
+}
 
 double CplAbs(const Complex& a) {
     return Checked(std::sqrt(Checked(Checked(a.Re * a.Re) + Checked(a.Im * a.Im))));
@@ -69,7 +73,9 @@ double CplArgRadians(const Complex& a) {
     return a.Im > 0.0 ? t + kArgOfNegativeReal : t - kArgOfNegativeReal;
 }
 
-double CplArg(const Complex& a) { return Checked(CplArgRadians(a) / AngleUnit); }
+double CplArg(const Complex& a) {
+    return Checked(CplArgRadians(a) / AngleUnit);
+}
 
 double CplAbsArg(const Complex& a, double& theta) {
     theta = CplArg(a);
@@ -87,12 +93,23 @@ Complex CplLog(const Complex& a) {
 
 bool ApplyOperator(char op, Complex& acc, const Complex& right) {
     switch (op) {
-        case '+': acc = CplAdd(acc, right); return true;
-        case '-': acc = CplSub(acc, right); return true;
-        case '*': acc = CplMul(acc, right); return true;
-        case '/': acc = CplDiv(acc, right); return true;
-        case '^': acc = CplPow(acc, right); return true;
-        default: return false;
+        case '+':
+            acc = CplAdd(acc, right);
+            return true;
+        case '-':
+            acc = CplSub(acc, right);
+            return true;
+        case '*':
+            acc = CplMul(acc, right);
+            return true;
+        case '/':
+            acc = CplDiv(acc, right);
+            return true;
+        case '^':
+            acc = CplPow(acc, right);
+            return true;
+        default:
+            return false;
     }
 }
 

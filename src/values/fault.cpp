@@ -22,7 +22,9 @@ const char* DescriptionOf(FaultCode code) {
 
 RuntimeFault::RuntimeFault(FaultCode code) : std::runtime_error(DescriptionOf(code)), code_(code) {}
 
-void RaiseFault(FaultCode code) { throw RuntimeFault(code); }
+void RaiseFault(FaultCode code) {
+    throw RuntimeFault(code);
+}
 
 std::int16_t ToInt16(long long x) {
     if (x < -32768 || x > 32767) RaiseFault(FaultCode::Overflow);

@@ -18,13 +18,13 @@ enum class FaultCode : int {
 };
 
 class RuntimeFault : public std::runtime_error {
-public:
+  public:
     explicit RuntimeFault(FaultCode code);
     FaultCode code() const { return code_; }
     // Short Japanese description shown after "実行時異常終了".
     const char* description() const { return what(); }
 
-private:
+  private:
     FaultCode code_;
 };
 
@@ -39,8 +39,14 @@ inline double Checked(double x) {
 // 16-bit signed arithmetic for the interpreter's counts, indices and bounds:
 // a result outside -32768..32767 is the overflow fault, never a wrap.
 std::int16_t ToInt16(long long x);
-inline std::int16_t Add16(std::int16_t a, std::int16_t b) { return ToInt16(static_cast<long long>(a) + b); }
-inline std::int16_t Sub16(std::int16_t a, std::int16_t b) { return ToInt16(static_cast<long long>(a) - b); }
-inline std::int16_t Mul16(std::int16_t a, std::int16_t b) { return ToInt16(static_cast<long long>(a) * b); }
+inline std::int16_t Add16(std::int16_t a, std::int16_t b) {
+    return ToInt16(static_cast<long long>(a) + b);
+}
+inline std::int16_t Sub16(std::int16_t a, std::int16_t b) {
+    return ToInt16(static_cast<long long>(a) - b);
+}
+inline std::int16_t Mul16(std::int16_t a, std::int16_t b) {
+    return ToInt16(static_cast<long long>(a) * b);
+}
 
 }  // namespace lapdesk

@@ -14,12 +14,18 @@ ComplexArray ComplexArray::Matrix(int rows, int columns) {
     return m;
 }
 
-ComplexArray ComplexArray::Vector(int length) { return Matrix(length, 1); }
+ComplexArray ComplexArray::Vector(int length) {
+    return Matrix(length, 1);
+}
 
 namespace {
 
-bool IsSquare(const ComplexArray& a) { return a.NI == a.NJ; }
-bool IsVector(const ComplexArray& a) { return a.NJ == 0; }
+bool IsSquare(const ComplexArray& a) {
+    return a.NI == a.NJ;
+}
+bool IsVector(const ComplexArray& a) {
+    return a.NJ == 0;
+}
 
 // Runs a routine with its arithmetic faults trapped: a fault is a failure.
 template <typename Routine>
@@ -41,7 +47,8 @@ bool Solve(ComplexArray a, ComplexArray b, ComplexArray& x) {
             if (CplAbs(a.At(row, col)) > CplAbs(a.At(pivot, col))) pivot = row;
         }
         if (pivot != col) {
-            for (int k = 0; k < n; ++k) std::swap(a.At(col, k), a.At(pivot, k));
+            for (int k = 0; k < n; ++k)
+                std::swap(a.At(col, k), a.At(pivot, k));
             std::swap(b.At(col), b.At(pivot));
         }
         for (int row = col + 1; row < n; ++row) {
@@ -55,7 +62,8 @@ bool Solve(ComplexArray a, ComplexArray b, ComplexArray& x) {
     ComplexArray solution = ComplexArray::Vector(n);
     for (int row = n - 1; row >= 0; --row) {
         Complex sum = b.At(row);
-        for (int k = row + 1; k < n; ++k) sum = CplSub(sum, CplMul(a.At(row, k), solution.At(k)));
+        for (int k = row + 1; k < n; ++k)
+            sum = CplSub(sum, CplMul(a.At(row, k), solution.At(k)));
         solution.At(row) = CplDiv(sum, a.At(row, row));
     }
     x = std::move(solution);
@@ -101,7 +109,8 @@ Complex EliminatedDeterminant(ComplexArray a) {
         }
         if (a.At(pivot, col) == Complex{}) return {};
         if (pivot != col) {
-            for (int k = 0; k < n; ++k) std::swap(a.At(col, k), a.At(pivot, k));
+            for (int k = 0; k < n; ++k)
+                std::swap(a.At(col, k), a.At(pivot, k));
             det = CplNeg(det);
         }
         det = CplMul(det, a.At(col, col));
@@ -156,7 +165,8 @@ bool MatI1(const ComplexArray& a, Complex& trace) {
     if (!IsSquare(a)) return false;
     return Trapped([&] {
         Complex sum{};
-        for (int i = 0; i < a.Rows(); ++i) sum = CplAdd(sum, a.At(i, i));
+        for (int i = 0; i < a.Rows(); ++i)
+            sum = CplAdd(sum, a.At(i, i));
         trace = sum;
         return true;
     });
@@ -166,7 +176,8 @@ bool MatJ2(const ComplexArray& a, Complex& sumOfSquares) {
     if (!IsSquare(a)) return false;
     return Trapped([&] {
         Complex sum{};
-        for (const Complex& v : a.Values) sum = CplAdd(sum, CplMul(v, v));
+        for (const Complex& v : a.Values)
+            sum = CplAdd(sum, CplMul(v, v));
         sumOfSquares = sum;
         return true;
     });
@@ -175,8 +186,7 @@ bool MatJ2(const ComplexArray& a, Complex& sumOfSquares) {
 bool MatI3(const ComplexArray& a, Complex& determinant) {
     if (!IsSquare(a)) return false;
     return Trapped([&] {
-        determinant =
-            a.Rows() <= kLargestCofactorSize ? Determinant(a) : EliminatedDeterminant(a);
+        determinant = a.Rows() <= kLargestCofactorSize ? Determinant(a) : EliminatedDeterminant(a);
         return true;
     });
 }
@@ -190,7 +200,8 @@ bool InvMat(const ComplexArray& a, ComplexArray& inverse) {
         unit.At(j) = {1.0, 0.0};
         ComplexArray column;
         if (!GaussSolve(a, unit, column)) return false;
-        for (int i = 0; i < n; ++i) result.At(i, j) = column.At(i);
+        for (int i = 0; i < n; ++i)
+            result.At(i, j) = column.At(i);
     }
     inverse = std::move(result);
     return true;

@@ -22,7 +22,7 @@ struct ComplexArray {
     Complex& At(int i, int j = 0) { return Values[Index(i, j)]; }
     const Complex& At(int i, int j = 0) const { return Values[Index(i, j)]; }
 
-private:
+  private:
     std::size_t Index(int i, int j) const { return static_cast<std::size_t>((NI + 1) * j + i); }
 };
 

@@ -14,8 +14,8 @@ bool SampleOnce(TransformDriver& driver, Interpreter& session, int k) {
     InterpreterView& view = session.view();
     double re = 0.0;
     double im = 0.0;
-    const bool ran = ASetLapOpValur(session, driver.SamplePoint(k)) &&
-                     session.RunProgram(re, im, false, true);
+    const bool ran =
+        ASetLapOpValur(session, driver.SamplePoint(k)) && session.RunProgram(re, im, false, true);
     if (view.StopRequested()) {
         view.ClearStopRequest();
         driver.SetStatus("プログラム実行中断");

@@ -1,0 +1,156 @@
+// The program driver: when it analyses, what the answer field shows on each
+// path, the program list, and erasing the globals.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "session.h"
+
+namespace lapdesk {
+namespace {
+
+// Keeps every text the answer field showed, not only the last.
+class KaiHistoryView : public RecordingView {
+  public:
+    std::vector<std::string> shown;
+    void SetKai(const std::string& text) override {
+        RecordingView::SetKai(text);
+        shown.push_back(text);
+    }
+    long Count(const std::string& text) const {
+        return std::count(shown.begin(), shown.end(), text);
+    }
+};
+
+struct Driver : ::testing::Test {
+    KaiHistoryView view;
+    Interpreter interpreter{view};
+    double re = 0.0;
+    double im = 0.0;
+
+    bool Run(bool eraseGlobals = true, bool run = true) {
+        return interpreter.RunProgram(re, im, eraseGlobals, run);
+    }
+};
+
+TEST_F(Driver, SecondRunWithoutChangesDoesNotAnalyseAgain) {
+    interpreter.SetProgramText(ProgramText({"Return 2", "End"}));
+    ASSERT_TRUE(Run());
+    ASSERT_TRUE(Run());
+    EXPECT_EQ(view.Count("Now Analising"), 1);
+    EXPECT_EQ(view.Count("Now Executing"), 2);
+    EXPECT_EQ(view.kai, "Result=2");
+}
+
+TEST_F(Driver, SettingTheSameTextKeepsTheAnalysis) {
+    const std::string text = ProgramText({"Return 2", "End"});
+    interpreter.SetProgramText(text);
+    ASSERT_TRUE(Run());
+    interpreter.SetProgramText(text);
+    ASSERT_TRUE(Run());
+    EXPECT_EQ(view.Count("Now Analising"), 1);
+}
+
+TEST_F(Driver, EditingTheTextAnalysesAgain) {
+    interpreter.SetProgramText(ProgramText({"Return 2", "End"}));
+    ASSERT_TRUE(Run());
+    interpreter.SetProgramText(ProgramText({"Return 3", "End"}));
+    ASSERT_TRUE(Run());
+    EXPECT_EQ(view.Count("Now Analising"), 2);
+    EXPECT_EQ(view.kai, "Result=3");
+}
+
+TEST_F(Driver, ErasingTheGlobalsAnalysesAgain) {
+    interpreter.SetProgramText(ProgramText({"Return 2", "End"}));
+    ASSERT_TRUE(Run());
+    interpreter.EraseGlobals();
+    ASSERT_TRUE(Run());
+    EXPECT_EQ(view.Count("Now Analising"), 2);
+}
+
+TEST_F(Driver, FailedAnalysisIsRepeatedOnTheNextRun) {
+    interpreter.SetProgramText(ProgramText({"Next", "End"}));
+    ASSERT_FALSE(Run());
+    ASSERT_FALSE(Run());
+    EXPECT_EQ(view.Count("Now Analising"), 2);
+    EXPECT_EQ(view.messages.size(), 2u);
+}
+
+TEST_F(Driver, AnalysisOnlyEndsOnCodeError) {
+    interpreter.SetProgramText(ProgramText({"Return 2", "End", "Function F()", "End Function"}));
+    EXPECT_FALSE(Run(true, false));
+    EXPECT_EQ(view.kai, "Code Error2");
+    EXPECT_EQ(view.Count("Analise is Completed"), 1);
+    EXPECT_EQ(view.Count("Now Executing"), 0);
+    EXPECT_TRUE(interpreter.ProgramAnalysed());
+}
+
+TEST_F(Driver, ResultGivesRealAndImaginaryParts) {
+    interpreter.SetProgramText(ProgramText({"Return 3 - 4j", "End"}));
+    ASSERT_TRUE(Run());
+    EXPECT_EQ(re, 3.0);
+    EXPECT_EQ(im, -4.0);
+    EXPECT_EQ(view.kai, "Result=3-4j");
+}
+
+TEST_F(Driver, ResultFollowsTheRoundedDisplay) {
+    interpreter.SetProgramText(ProgramText({"Return 1 / 3", "End"}));
+    ASSERT_TRUE(Run());
+    EXPECT_EQ(view.kai, "Result=0.333333333333333");
+    view.rounded = true;
+    ASSERT_TRUE(Run());
+    EXPECT_EQ(view.kai, "Result=0.333333");
+}
+
+TEST_F(Driver, ProgramListHoldsOneEntryPerStatement) {
+    interpreter.SetProgramText("a = 1 : b = 2 ' note\r\n\r\n  c = 3\r\nEnd");
+    ASSERT_TRUE(Run());
+    EXPECT_EQ(view.programList, (std::vector<std::string>{"a = 1", "b = 2", "c = 3", "End"}));
+}
+
+TEST_F(Driver, LineFeedAloneAlsoEndsALine) {
+    interpreter.SetProgramText("a = 4\nReturn a\nEnd");
+    ASSERT_TRUE(Run());
+    EXPECT_EQ(view.kai, "Result=4");
+}
+
+TEST_F(Driver, ErasingBeforeAnalysisRemovesImmediateGlobals) {
+    ASSERT_TRUE(interpreter.ImmediateLine("g = 5").ok);
+    interpreter.SetProgramText(ProgramText({"Return g", "End"}));
+    EXPECT_FALSE(Run(true));
+    EXPECT_EQ(interpreter.ImmediatePage().NumofMemory(), 0);
+}
+
+TEST_F(Driver, KeepingGlobalsLetsTheProgramReadThem) {
+    ASSERT_TRUE(interpreter.ImmediateLine("g = 5").ok);
+    interpreter.SetProgramText(ProgramText({"Return g", "End"}));
+    ASSERT_TRUE(Run(false));
+    EXPECT_EQ(view.kai, "Result=5");
+}
+
+// A function named like the global page is refused; the globals stay.
+TEST_F(Driver, FunctionNamedLikeTheGlobalPageLeavesTheGlobalsAlone) {
+    ASSERT_TRUE(interpreter.ImmediateLine("g = 5").ok);
+    interpreter.SetProgramText(
+        ProgramText({"Return g", "End", "Function imidate(x)", "imidate = x", "End Function"}));
+    EXPECT_FALSE(Run(false));
+    interpreter.SetProgramText(ProgramText({"Return g", "End"}));
+    ASSERT_TRUE(Run(false));
+    EXPECT_EQ(view.kai, "Result=5");
+    EXPECT_EQ(interpreter.ImmediatePage().PageIndex(), -1);
+}
+
+// A run starts with Main's value cleared: a run that sets no value gives 0.
+TEST_F(Driver, EachRunStartsFromAZeroValue) {
+    interpreter.SetProgramText(
+        ProgramText({"n = n + 1", "If n = 1 Then", "Return 9", "End If", "End"}));
+    ASSERT_TRUE(Run());
+    EXPECT_EQ(view.kai, "Result=9");
+    ASSERT_TRUE(Run());
+    EXPECT_EQ(view.kai, "Result=0");
+}
+
+}  // namespace
+}  // namespace lapdesk

@@ -1,0 +1,250 @@
+// Variable memory of a page: names under the case switch, declarations,
+// element addressing, erasing, and where assignments create variables.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "session.h"
+#include "values/fault.h"
+
+namespace lapdesk {
+namespace {
+
+// ---- Names and the case switch
+
+struct CaseRow {
+    const char* name;
+    bool caseSensitive;
+    std::vector<std::string> variables;  // Main's memory after the run, in order
+    const char* result;
+};
+
+class CaseSwitch : public ::testing::TestWithParam<CaseRow> {};
+
+TEST_P(CaseSwitch, DecidesWhetherSpellingsShareAVariable) {
+    const CaseRow& row = GetParam();
+    Session s;
+    s.interpreter.SetCaseSensitive(row.caseSensitive);
+    ASSERT_TRUE(s.Run({"a = 1", "A = A + 5", "Return a", "End"}));
+    EXPECT_EQ(s.view.kai, row.result);
+    std::vector<std::string> names;
+    for (std::int16_t k = 0; k < s.Main().NumofMemory(); ++k)
+        names.push_back(s.Main().MemoryName(k));
+    EXPECT_EQ(names, row.variables);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Memory, CaseSwitch,
+    ::testing::Values(CaseRow{"On", true, {"a", "A"}, "Result=1"},
+                      // The second spelling finds the first variable, whose name is kept.
+                      CaseRow{"Off", false, {"a"}, "Result=6"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+// ---- Declarations
+
+TEST(Declaration, RepeatedWithTheSameShapeKeepsTheValues) {
+    Session s;
+    ASSERT_TRUE(s.Line("Dim A(3)").ok);
+    ASSERT_TRUE(s.Line("A(2) = 7").ok);
+    EXPECT_TRUE(s.Line("Dim A(3)").ok);
+    EXPECT_EQ(s.Global().NumofMemory(), 1);
+    EXPECT_EQ(s.Line("A(2)").value.Re, 7.0);
+}
+
+TEST(Declaration, NeverReshapesAVariable) {
+    for (const char* other : {"Dim A(4)", "Dim A(3,0)", "Dim A"}) {
+        Session s;
+        ASSERT_TRUE(s.Line("Dim A(3)").ok);
+        EXPECT_FALSE(s.Line(other).ok) << other;
+        EXPECT_EQ(s.Global().MemoryLn(0), 3) << other;
+        EXPECT_EQ(s.Global().MemoryTyp(0), 1) << other;
+    }
+}
+
+TEST(Declaration, ItemsBeforeAFailingOneStayDeclared) {
+    Session s;
+    ASSERT_TRUE(s.Line("Dim B(1)").ok);
+    EXPECT_FALSE(s.Line("Dim A(2), B(5), C").ok);
+    EXPECT_EQ(Session::IndexOf(s.Global(), "A"), 1);
+    EXPECT_EQ(Session::IndexOf(s.Global(), "C"), -1);
+}
+
+TEST(Declaration, MatrixShape) {
+    Session s;
+    ASSERT_TRUE(s.Line("Dim A(2,3)").ok);
+    ClsCode& g = s.Global();
+    EXPECT_EQ(g.MemoryTyp(0), 2);
+    EXPECT_EQ(g.MemoryNI(0), 2);
+    EXPECT_EQ(g.MemoryNJ(0), 3);
+    EXPECT_EQ(g.MemoryLn(0), 11);
+}
+
+// Sizes beyond the 16-bit range fail instead of wrapping to a small array.
+TEST(Declaration, SizeOverflowFailsCleanly) {
+    for (const char* line : {"Dim B(200,200)", "Dim B(32767)", "Dim B(-1)"}) {
+        Session s;
+        EXPECT_FALSE(s.Line(line).ok) << line;
+        EXPECT_EQ(s.Global().NumofMemory(), 0) << line;
+    }
+    Session s;
+    ASSERT_TRUE(s.Line("Dim B(32766)").ok);
+    EXPECT_EQ(s.Global().MemoryLn(0), 32766);
+}
+
+TEST(Declaration, ParameterNameCannotBeDeclared) {
+    Session s;
+    EXPECT_FALSE(s.Run({"Call F(1)", "End", "Function F(x)", "Dim x", "End Function"}));
+    ASSERT_EQ(s.view.messages.size(), 1u);
+    EXPECT_TRUE(s.view.messages[0].starts_with("F: 2行目解析エラー\r\nDim x:"))
+        << s.view.messages[0];
+}
+
+// ---- Element addressing
+
+constexpr std::int32_t kComputeFlat = 65535;
+
+struct ElementRow {
+    const char* name;
+    std::int16_t i, j;
+    std::int32_t flat;  // as passed
+    bool ok;
+    std::int32_t flatAfter;  // as written back
+};
+
+class DirectElement : public ::testing::TestWithParam<ElementRow> {};
+
+// A(2,3): NI 2, NJ 3, Ln 11; element (i, j) at 3 * j + i.
+TEST_P(DirectElement, SetThenGet) {
+    const ElementRow& row = GetParam();
+    Session s;
+    ASSERT_TRUE(s.Line("Dim A(2,3)").ok);
+    ClsCode& g = s.Global();
+    std::int32_t flat = row.flat;
+    EXPECT_EQ(g.AzVariableValueDirectSet(0, row.i, row.j, flat, 5.0, -1.0), row.ok);
+    EXPECT_EQ(flat, row.flatAfter);
+    for (std::int32_t k = 0; k <= 11; ++k) {
+        double re = 0.0, im = 0.0;
+        std::int32_t at = k;
+        ASSERT_TRUE(g.AVariableValueDirectGet(0, 0, 0, at, re, im));
+        const bool written = row.ok && k == row.flatAfter;
+        EXPECT_EQ(re, written ? 5.0 : 0.0) << "flat " << k;
+        EXPECT_EQ(im, written ? -1.0 : 0.0) << "flat " << k;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Memory, DirectElement,
+    ::testing::Values(ElementRow{"LastElement", 2, 3, kComputeFlat, true, 11},
+                      ElementRow{"FirstSubscriptPastItsBound", 3, 0, kComputeFlat, true, 3},
+                      ElementRow{"PastTheEnd", 0, 4, kComputeFlat, false, 12},
+                      ElementRow{"MinusOneAlsoComputes", 1, 1, -1, true, 4},
+                      ElementRow{"AnyFlatAbove65534Computes", 1, 2, 70000, true, 7},
+                      ElementRow{"GivenFlatIgnoresSubscripts", 2, 3, 5, true, 5},
+                      ElementRow{"GivenFlatPastTheEnd", 0, 0, 12, false, 12}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(DirectElement, NegativeFlatIndexIsABoundsFault) {
+    Session s;
+    ASSERT_TRUE(s.Line("Dim A(2,3)").ok);
+    double re = 0.0, im = 0.0;
+    std::int32_t flat = -2;
+    EXPECT_THROW(s.Global().AVariableValueDirectGet(0, 0, 0, flat, re, im), RuntimeFault);
+    flat = -2;
+    EXPECT_THROW(s.Global().AzVariableValueDirectSet(0, 0, 0, flat, 1.0, 0.0), RuntimeFault);
+    flat = kComputeFlat;  // (-1, 0) computes to -1, which is not "compute" again
+    EXPECT_THROW(s.Global().AzVariableValueDirectSet(0, -1, 0, flat, 1.0, 0.0), RuntimeFault);
+}
+
+TEST(DirectElement, VariableIndexOutOfRangeIsABoundsFault) {
+    Session s;
+    ASSERT_TRUE(s.Line("x = 1").ok);
+    double re = 0.0, im = 0.0;
+    std::int32_t flat = 0;
+    EXPECT_THROW(s.Global().AVariableValueDirectGet(1, 0, 0, flat, re, im), RuntimeFault);
+    EXPECT_THROW(s.Global().MemoryName(1), RuntimeFault);
+    EXPECT_THROW(s.Global().MemoryLn(-1), RuntimeFault);
+}
+
+TEST(MemoryInformation, GivesShapeAndFirstElement) {
+    Session s;
+    ASSERT_TRUE(s.Line("Dim V(2)").ok);
+    ASSERT_TRUE(s.Line("V(0) = 3 + 4j").ok);
+    std::string name;
+    std::int16_t typ = -1, ni = -1, nj = -1;
+    double re = 0.0, im = 0.0;
+    s.Global().AImidateGetMemoryInformation(0, name, typ, ni, nj, re, im);
+    EXPECT_EQ(name, "V");
+    EXPECT_EQ(typ, 1);
+    EXPECT_EQ(ni, 2);
+    EXPECT_EQ(nj, 0);
+    EXPECT_EQ(re, 3.0);
+    EXPECT_EQ(im, 4.0);
+}
+
+// ---- Erasing
+
+TEST(Erase, OneVariableShiftsTheLaterOnesAndClearsAnalysis) {
+    Session s;
+    ASSERT_TRUE(s.Run({"a = 1", "b = 2", "c = 3", "End"}));
+    ClsCode& main = s.Main();
+    ASSERT_TRUE(main.Analized());
+    main.AEraseMemory(0);
+    EXPECT_FALSE(main.Analized());
+    ASSERT_EQ(main.NumofMemory(), 2);
+    EXPECT_EQ(main.MemoryName(0), "b");
+    EXPECT_EQ(main.MemoryName(1), "c");
+    double re = 0.0, im = 0.0;
+    std::int32_t flat = 0;
+    ASSERT_TRUE(main.AVariableValueDirectGet(0, 0, 0, flat, re, im));
+    EXPECT_EQ(re, 2.0);
+    EXPECT_THROW(main.AEraseMemory(2), RuntimeFault);
+}
+
+TEST(Erase, AllMemoryOfAPage) {
+    Session s;
+    ASSERT_TRUE(s.Run({"a = F(1)", "End", "Function F(x)", "y = x", "F = y", "End Function"}));
+    ClsCode& f = s.interpreter.Page(1);
+    ASSERT_EQ(f.NumofArg(), 1);
+    f.AEraseMemorys();
+    EXPECT_EQ(f.NumofMemory(), 0);
+    EXPECT_EQ(f.NumofArg(), 0);
+    EXPECT_FALSE(f.Analized());
+}
+
+// ---- Where assignments create variables
+
+TEST(Creation, GlobalAssignedFirstInAFunctionCreatesNoLocal) {
+    Session s;
+    ASSERT_TRUE(s.Line("g = 1").ok);
+    ASSERT_TRUE(s.Run(
+        ProgramText({"Call SetG()", "End", "Function SetG()", "g = 7", "End Function"}), false));
+    EXPECT_EQ(s.interpreter.Page(1).NumofMemory(), 0);
+    EXPECT_EQ(s.Global().NumofMemory(), 1);
+    EXPECT_EQ(s.Line("g").value.Re, 7.0);
+}
+
+TEST(Creation, FunctionLocalsStayOnTheFunctionPage) {
+    Session s;
+    ASSERT_TRUE(
+        s.Run({"Return F(2)", "End", "Function F(x)", "t = x * 3", "F = t", "End Function"}));
+    EXPECT_EQ(s.view.kai, "Result=6");
+    EXPECT_EQ(s.Main().NumofMemory(), 0);
+    EXPECT_EQ(s.Global().NumofMemory(), 0);
+    EXPECT_EQ(Session::IndexOf(s.interpreter.Page(1), "t"), 0);
+}
+
+TEST(Creation, MainVariablesSurviveBetweenRuns) {
+    Session s;
+    const std::string text = ProgramText({"n = n + 1", "Return n", "End"});
+    ASSERT_TRUE(s.Run(text));
+    ASSERT_TRUE(s.Run(text));
+    EXPECT_EQ(s.view.kai, "Result=2");
+    // A changed text builds the pages again, with fresh memory.
+    ASSERT_TRUE(s.Run(text + "\r\n"));
+    EXPECT_EQ(s.view.kai, "Result=1");
+}
+
+}  // namespace
+}  // namespace lapdesk

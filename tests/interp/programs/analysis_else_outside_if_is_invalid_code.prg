@@ -1,0 +1,4 @@
+' expect: Code Error1
+' expect-message: Main: 1行目解析エラー\nElse:無効なコード
+Else
+End

@@ -1,0 +1,6 @@
+' expect: Code Error2
+' expect-message: コード解析Pass1 エラー\n関数の定義不正(Function...EndFunction不正等)
+a = 1
+End
+Function 3D(x)
+End Function
