@@ -1,6 +1,8 @@
 // A calculator session without a window, for the interpreter's tests.
 #pragma once
 
+#include "named_rows.h"
+
 #include <initializer_list>
 #include <ostream>
 #include <string>
@@ -46,17 +48,5 @@ struct Session {
         return -1;
     }
 };
-
-// Rows of the table-driven tests print as their names. The rows live in
-// each test file's unnamed namespace, where the printer must be to be found.
-namespace {
-template <typename Row>
-requires requires(const Row& row) {
-    row.name;
-}
-void PrintTo(const Row& row, std::ostream* os) {
-    *os << row.name;
-}
-}  // namespace
 
 }  // namespace lapdesk

@@ -2,6 +2,8 @@
 // that arithmetic raises instead of storing an infinity or NaN.
 #include <gtest/gtest.h>
 
+#include "named_rows.h"
+
 #include <bit>
 #include <cstdint>
 #include <functional>
@@ -16,15 +18,6 @@
 
 namespace lapdesk {
 namespace {
-
-// Parameterised rows print as their names in test output.
-template <typename Row>
-requires requires(const Row& row) {
-    row.name;
-}
-void PrintTo(const Row& row, std::ostream* out) {
-    *out << row.name;
-}
 
 constexpr double kPi = std::numbers::pi;
 

@@ -1,6 +1,8 @@
 // The scalar built-in functions, called by their codes 0..24.
 #include <gtest/gtest.h>
 
+#include "named_rows.h"
+
 #include <cmath>
 #include <numbers>
 #include <ostream>
@@ -13,15 +15,6 @@
 
 namespace lapdesk {
 namespace {
-
-// Parameterised rows print as their names in test output.
-template <typename Row>
-requires requires(const Row& row) {
-    row.name;
-}
-void PrintTo(const Row& row, std::ostream* out) {
-    *out << row.name;
-}
 
 constexpr double kPi = std::numbers::pi;
 

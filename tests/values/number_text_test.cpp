@@ -1,6 +1,8 @@
 // Numeric literals to values and values to the calculator's text.
 #include <gtest/gtest.h>
 
+#include "named_rows.h"
+
 #include <clocale>
 #include <cmath>
 #include <limits>
@@ -14,15 +16,6 @@
 
 namespace lapdesk {
 namespace {
-
-// Parameterised rows print as their names in test output.
-template <typename Row>
-requires requires(const Row& row) {
-    row.name;
-}
-void PrintTo(const Row& row, std::ostream* out) {
-    *out << row.name;
-}
 
 template <typename Row>
 std::string RowName(const ::testing::TestParamInfo<Row>& info) {
