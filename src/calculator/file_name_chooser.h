@@ -1,0 +1,38 @@
+// The program file dialogs: the starting folder, the last folder used, the
+// overwrite question, and the text of the last file error.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+
+class QWidget;
+
+namespace lapdesk {
+
+class CalculatorDialogs;
+
+inline constexpr std::int16_t kOpenProgramDialog = 3;
+inline constexpr std::int16_t kSaveProgramDialog = 4;
+
+class FileNameChooser {
+  public:
+    explicit FileNameChooser(CalculatorDialogs& dialogs) : dialogs_(dialogs) {}
+
+    // Mode 3 opens, mode 4 saves (asking before an existing file is
+    // overwritten); other modes fail at once. On success the chosen name
+    // replaces fileName.
+    bool Choose(QWidget* parent, QString& fileName, std::int16_t mode);
+
+    const QString& fileErrorText() const { return fileErrorText_; }
+    void SetFileErrorText(const QString& text) { fileErrorText_ = text; }
+
+  private:
+    QString InitialPath(const QString& fileName);
+
+    CalculatorDialogs& dialogs_;
+    QString appDirectory_;
+    QString lastDirectory_;
+    QString fileErrorText_;
+};
+
+}  // namespace lapdesk

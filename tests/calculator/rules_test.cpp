@@ -1,0 +1,181 @@
+// The calculator's rules that need no window: menu words, key layers,
+// history and zoom, error locations, the meter's ticks, the highlighter.
+#include <gtest/gtest.h>
+
+#include "calculator/error_location.h"
+#include "calculator/immediate_rules.h"
+#include "calculator/keyboard_layers.h"
+#include "calculator/menu_words.h"
+#include "calculator/program_files.h"
+#include "calculator/program_highlighter.h"
+#include "calculator/progress_meter.h"
+#include "window_fixture.h"
+
+namespace lapdesk::testing {
+namespace {
+
+TEST(MenuWords, CaptionsCutAsEachMenuCutsThem) {
+    const struct {
+        const char* rule;
+        WordInsertion (*cut)(const QString&);
+        const char* caption;
+        const char* text;
+        int back;
+    } rows[] = {
+        {"const comma", &ConstantWord, "π,Pai：3.1415...", "π", 0},
+        {"const comma before colon", &ConstantWord, " a：b,c ", "a：b", 0},
+        {"const colon", &ConstantWord, "Random：乱数", "Random", 0},
+        {"const neither", &ConstantWord, "  If  Then ", "If  Then", 0},
+        {"const comma keeps blank", &ConstantWord, "ExitFor , Exit For", "ExitFor ", 0},
+        {"dm constant", &DmConstantWord, " DT:間隔", " DT", 0},
+        {"dm constant no colon", &DmConstantWord, "DT", "DT", 0},
+        {"function", &FunctionWord, " Atan() , Atn()", "Atan()", 1},
+        {"function two args", &FunctionWord, "Cpx(,)：Cpx(a,b)=a+bj", "Cpx(,)", 1},
+        {"function without bracket", &FunctionWord, " Sin ", "Sin", 0},
+        {"bool function", &BoolFunctionWord, "  Boolean( ) ", "Boolean( ) ", 2},
+        {"channel colon", &ChannelWord, "  Ch1:入力", "Ch1", 0},
+        {"channel bracket", &ChannelWord, " Vp(1):入力", "Vp()", 1},
+        {"channel colon first", &ChannelWord, "Ch:a(1)", "Ch", 0},
+        {"channel plain", &ChannelWord, "  Ch3 ", "Ch3 ", 0},
+    };
+    for (const auto& row : rows) {
+        const WordInsertion word = row.cut(QString::fromUtf8(row.caption));
+        EXPECT_EQ(word.text, QString::fromUtf8(row.text)) << row.rule;
+        EXPECT_EQ(word.back, row.back) << row.rule;
+    }
+}
+
+TEST(MenuWords, TrimOnlyBlanks) {
+    EXPECT_EQ(TrimBlanks(QStringLiteral("\t a　 ")), QStringLiteral("\t a　"));
+    EXPECT_EQ(TrimLeftBlanks(QStringLiteral("  a  ")), QStringLiteral("a  "));
+}
+
+TEST(KeyLayers, NormalLayerLowersLettersOnly) {
+    const KeyLayers layers = BuildKeyLayers(DesignCaptions());
+    EXPECT_EQ(layers.normal[0], QStringLiteral("1"));
+    EXPECT_EQ(layers.normal[9], QStringLiteral("0"));
+    EXPECT_EQ(layers.normal[12], QStringLiteral("a"));
+    EXPECT_EQ(layers.normal[37], QStringLiteral("z"));
+    EXPECT_EQ(layers.normal[38], QStringLiteral("/"));
+    EXPECT_EQ(layers.shifted[12], QStringLiteral("A"));
+    for (int key : {10, 11, 47})
+        EXPECT_EQ(layers.shifted[key], layers.normal[key]) << key;
+}
+
+TEST(KeyLayers, ShiftedTableWithTwoSilentKeys) {
+    KeyCaptions design;
+    for (int k = 0; k < kCharacterKeyCount; ++k)
+        design[k] = QStringLiteral("K%1").arg(k);
+    const KeyLayers layers = BuildKeyLayers(design);
+    const char* expected[kCharacterKeyCount] = {
+        "!",   "",    "#",   "$",   "%",   "&",   "'",   "{",   "}",   "",    "K10", "K11", "K12",
+        "K13", "K14", "K15", "K16", "K17", "K18", "K19", "K20", "K21", "K22", "K23", "K24", "K25",
+        "K26", "K27", "K28", "K29", "K30", "K31", "K32", "K33", "K34", "K35", "K36", "K37", "?",
+        "_",   "[",   "]",   "<",   ">",   "+",   "=",   "*",   "K47", "~",   "`",   "|"};
+    for (int k = 0; k < kCharacterKeyCount; ++k) {
+        EXPECT_EQ(layers.shifted[k], QString::fromLatin1(expected[k])) << k;
+    }
+    EXPECT_EQ(layers.normal[12], QStringLiteral("k12"));
+    EXPECT_EQ(layers.normal[11], QStringLiteral("K11"));
+}
+
+TEST(KeyLayers, InsertTextAndControlKeys) {
+    EXPECT_EQ(KeyInsertText(QStringLiteral("Space")), QStringLiteral(" "));
+    EXPECT_EQ(KeyInsertText(QStringLiteral("Tab")), QStringLiteral("    "));
+    EXPECT_EQ(KeyInsertText(QStringLiteral("space")), QStringLiteral("space"));
+    EXPECT_EQ(KeyInsertText(QStringLiteral("π")), QStringLiteral("π"));
+    EXPECT_EQ(ParseControlKey(QStringLiteral("past")), ControlKey::Paste);
+    EXPECT_EQ(ParseControlKey(QStringLiteral("c")), ControlKey::Clear);
+    EXPECT_EQ(ParseControlKey(QStringLiteral("→")), ControlKey::Right);
+    EXPECT_EQ(ParseControlKey(QStringLiteral("PASTE")), ControlKey::None);
+    for (const QString& caption : ControlKeyCaptions()) {
+        EXPECT_NE(ParseControlKey(caption), ControlKey::None) << caption.toStdString();
+    }
+}
+
+TEST(ImmediateRules, HistoryEntriesAndRecall) {
+    EXPECT_EQ(HistoryEntry(QStringLiteral(" a = 3"), QStringLiteral("3")),
+              QStringLiteral(" a = 3 = 3"));
+    EXPECT_EQ(RecallFromHistory(QStringLiteral(" a = 3 = 3")), QStringLiteral("a = 3"));
+    EXPECT_EQ(RecallFromHistory(QStringLiteral("Sin(x=1) = Error")), QStringLiteral("Sin(x=1)"));
+    EXPECT_EQ(RecallFromHistory(QStringLiteral(" = Error")), QString());
+    EXPECT_EQ(RecallFromHistory(QStringLiteral(" text ")), QStringLiteral("text"));
+}
+
+TEST(ImmediateRules, ZoomAndShiftState) {
+    EXPECT_EQ(ZoomedPointSize(12, false), 13);
+    EXPECT_EQ(ZoomedPointSize(12, true), 11);
+    EXPECT_EQ(ZoomedPointSize(10, true), 9);
+    EXPECT_EQ(ZoomedPointSize(9, true), 9);
+    EXPECT_EQ(ZoomedPointSize(7, true), 7);
+    EXPECT_EQ(ShiftState(Qt::ShiftModifier), kShiftOnly);
+    EXPECT_EQ(ShiftState(Qt::ControlModifier), kCtrlOnly);
+    EXPECT_EQ(ShiftState(Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier), 7);
+    EXPECT_EQ(ShiftState(Qt::KeypadModifier), 0);
+}
+
+TEST(ErrorLocation, ReadsPageAndStatement) {
+    const auto analysis =
+        ParseErrorLocation(QStringLiteral("Main: 12行目解析エラー\r\nFor i=1:Nextが無い"));
+    ASSERT_TRUE(analysis.has_value());
+    EXPECT_EQ(analysis->page, QStringLiteral("Main"));
+    EXPECT_EQ(analysis->statement, 12);
+    const auto run = ParseErrorLocation(QStringLiteral("F: 1行目実行エラー\nz = 1/x"));
+    ASSERT_TRUE(run.has_value());
+    EXPECT_EQ(run->page, QStringLiteral("F"));
+    EXPECT_EQ(run->statement, 1);
+    EXPECT_FALSE(ParseErrorLocation(QStringLiteral("実行時異常終了\r\nMain: 1行目実行エラー")));
+    EXPECT_FALSE(ParseErrorLocation(QStringLiteral("コード解析Pass1 エラー")));
+}
+
+TEST(ErrorLocation, StatementsMapToTheirLines) {
+    const QStringList lines{"' note", "a = 1 : b = 2", "", "a = 1", "  Return a ' a = 1"};
+    const QStringList statements{"a = 1", "b = 2", "a = 1", "Return a", "missing"};
+    EXPECT_EQ(MapStatementsToLines(lines, statements), (std::vector<int>{1, 1, 3, 4, -1}));
+    EXPECT_EQ(MapStatementsToLines(lines, {""}), std::vector<int>{-1});
+}
+
+TEST(ProgressMeter, TicksAcrossTheScale) {
+    const std::vector<double> ticks = MeterTicks(100);
+    ASSERT_EQ(ticks.size(), 21u);
+    for (std::size_t i = 0; i < ticks.size(); ++i)
+        EXPECT_DOUBLE_EQ(ticks[i], 5.0 * i);
+    EXPECT_EQ(MeterTicks(64).size(), 21u);
+    EXPECT_DOUBLE_EQ(MeterTicks(64).back(), 64.0);
+    EXPECT_TRUE(MeterTicks(0).empty());
+    EXPECT_TRUE(MeterTicks(-3).empty());
+}
+
+TEST(ProgramFiles, FilterAndLineBreaks) {
+    EXPECT_EQ(DialogFilter(QString::fromLatin1(kFileFilter)),
+              QStringLiteral("Program(*.Prg);;Data(*.Ldt);;Text(*.Txt);;All(*.*)"));
+    EXPECT_EQ(EditorTextToProgram(QStringLiteral("a\nb\n")), QStringLiteral("a\r\nb\r\n"));
+    EXPECT_EQ(ProgramToEditorText(QStringLiteral("a\r\nb\r\n")), QStringLiteral("a\nb\n"));
+}
+
+TEST(Highlighter, KindsOfWords) {
+    const QString line = QStringLiteral("For i = 1 To Sin(π) Step 2 ' Sin For");
+    const struct {
+        const char* word;
+        const char* kind;
+    } rows[] = {{"For", "keyword"},  {"To", "keyword"},    {"Sin", "function"}, {"π", "constant"},
+                {"Step", "keyword"}, {"' Sin", "comment"}, {"i ", ""},          {"1", ""}};
+    for (const auto& row : rows) {
+        const int at = static_cast<int>(line.indexOf(QString::fromUtf8(row.word)));
+        ASSERT_GE(at, 0) << row.word;
+        EXPECT_EQ(ProgramHighlighter::KindAt(line, at), QString::fromUtf8(row.kind)) << row.word;
+    }
+    const QString more = QStringLiteral("If a.And.b Then x = Random + Random(1) : End If");
+    EXPECT_EQ(ProgramHighlighter::KindAt(more, 4), QStringLiteral("operator"));
+    EXPECT_EQ(ProgramHighlighter::KindAt(more, static_cast<int>(more.indexOf("Random "))),
+              QStringLiteral("constant"));
+    EXPECT_EQ(ProgramHighlighter::KindAt(more, static_cast<int>(more.indexOf("Random("))),
+              QStringLiteral("function"));
+    EXPECT_EQ(ProgramHighlighter::KindAt(more, static_cast<int>(more.indexOf("End If") + 4)),
+              QStringLiteral("keyword"));
+    EXPECT_EQ(ProgramHighlighter::KindAt(QStringLiteral("Sine = 1"), 0), QString())
+        << "whole words";
+}
+
+}  // namespace
+}  // namespace lapdesk::testing

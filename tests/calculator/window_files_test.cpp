@@ -1,0 +1,150 @@
+// Program files through the window's menus, and the sample menus.
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "calculator/sample_programs.h"
+#include "window_fixture.h"
+
+namespace lapdesk::testing {
+namespace {
+
+class FilesTest : public WindowTest {
+  protected:
+    QByteArray Bytes(const QString& path) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+    QTemporaryDir folder;
+};
+
+TEST_F(FilesTest, SaveAndReadBackInCp932WithCrLf) {
+    const QString path = folder.filePath(QStringLiteral("和.Prg"));
+    SetProgram(QStringLiteral("' 和を求める\ns = 1 + 2\nReturn s\nEnd"));
+    script->files = {path};
+    Action("MenueWriteProgram")->trigger();
+    EXPECT_EQ(script->dialogTitles, QStringList{QStringLiteral("プログラムファイルを保存")});
+    EXPECT_TRUE(script->questions.isEmpty()) << "a new file needs no question";
+    // "和を求める" in cp932, CR LF between lines and one after the last.
+    const QByteArray expected = QByteArray(
+        "' \x98\x61\x82\xf0\x8b\x81\x82\xdf\x82\xe9\r\n"
+        "s = 1 + 2\r\nReturn s\r\nEnd\r\n");
+    EXPECT_EQ(Bytes(path), expected);
+    EXPECT_EQ(window->ProgramFileName(), path);
+    EXPECT_EQ(window->FileErrorText(), QString());
+
+    Editor()->setPlainText(QString());
+    script->files = {path};
+    Action("MenueReadProgram")->trigger();
+    EXPECT_EQ(script->dialogTitles.last(), QStringLiteral("プログラムファイルを開く"));
+    EXPECT_EQ(Editor()->toPlainText(), QStringLiteral("' 和を求める\ns = 1 + 2\nReturn s\nEnd"));
+    Click("ButtonPrgRun");
+    EXPECT_EQ(Kai(), QStringLiteral("Result=3")) << "the text read is the program run";
+}
+
+TEST_F(FilesTest, TrailingLineBreakGetsOneMoreAndReadsBack) {
+    const QString path = folder.filePath(QStringLiteral("a.Prg"));
+    SetProgram(QStringLiteral("Return 1\nEnd\n"));
+    window->WriteTextFile(path, Editor());
+    EXPECT_EQ(Bytes(path), QByteArray("Return 1\r\nEnd\r\n\r\n"));
+    Editor()->clear();
+    window->ReadTextFile(path, Editor());
+    EXPECT_EQ(Editor()->toPlainText(), QStringLiteral("Return 1\nEnd\n"));
+}
+
+TEST_F(FilesTest, Utf8FilesAndEmptyFilesRead) {
+    const struct {
+        const char* name;
+        QByteArray bytes;
+        const char* text;
+    } rows[] = {
+        {"utf8.Prg", QByteArray("' \xe5\x92\x8c\nEnd"), "' 和\nEnd"},
+        {"bom.Prg", QByteArray("\xef\xbb\xbfReturn 2\r\nEnd\r\n"), "Return 2\nEnd"},
+        {"empty.Prg", QByteArray(), ""},
+    };
+    for (const auto& row : rows) {
+        const QString path = folder.filePath(QString::fromLatin1(row.name));
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(row.bytes);
+        file.close();
+        Editor()->setPlainText(QStringLiteral("old"));
+        window->ReadTextFile(path, Editor());
+        EXPECT_EQ(Editor()->toPlainText(), QString::fromUtf8(row.text)) << row.name;
+    }
+}
+
+TEST_F(FilesTest, MissingFileLeavesTheTextAndRecordsWhy) {
+    SetProgram(QStringLiteral("End"));
+    window->ReadTextFile(folder.filePath(QStringLiteral("none.Prg")), Editor());
+    EXPECT_EQ(Editor()->toPlainText(), QStringLiteral("End"));
+    EXPECT_NE(window->FileErrorText(), QString());
+}
+
+TEST_F(FilesTest, OverwriteQuestion) {
+    const QString path = folder.filePath(QStringLiteral("b.Prg"));
+    SetProgram(QStringLiteral("Return 1\nEnd"));
+    window->WriteTextFile(path, Editor());
+    const QByteArray first = Bytes(path);
+    Editor()->setPlainText(QStringLiteral("Return 2\nEnd"));
+
+    script->files = {path};
+    script->answers = {QMessageBox::Cancel};
+    Action("MenueWriteProgram")->trigger();
+    EXPECT_EQ(script->questions,
+              QStringList{QStringLiteral("同名のファイルが有ります上書きしますか")});
+    EXPECT_EQ(Bytes(path), first) << "Cancel writes nothing";
+    EXPECT_EQ(window->FileErrorText(), QStringLiteral("ファイルは既に有ります"));
+
+    script->files = {path};
+    script->answers = {QMessageBox::Ok};
+    Action("MenueWriteProgram")->trigger();
+    EXPECT_EQ(Bytes(path), QByteArray("Return 2\r\nEnd\r\n"));
+
+    Editor()->setPlainText(QStringLiteral("Return 3\nEnd"));
+    Action("MenueWriteOverProgram")->trigger();
+    EXPECT_EQ(Bytes(path), QByteArray("Return 3\r\nEnd\r\n")) << "no dialog, no question";
+    EXPECT_EQ(script->questions.size(), 2);
+}
+
+TEST_F(FilesTest, CancelledDialogDoesNothing) {
+    SetProgram(QStringLiteral("End"));
+    Action("MenueReadProgram")->trigger();
+    EXPECT_EQ(Editor()->toPlainText(), QStringLiteral("End"));
+    EXPECT_EQ(window->ProgramFileName(), QString());
+    QString name = QStringLiteral("x.Prg");
+    EXPECT_FALSE(window->SetFileNameCAL(name, 5)) << "an unknown mode fails at once";
+    EXPECT_EQ(name, QStringLiteral("x.Prg"));
+}
+
+TEST_F(FilesTest, DialogsStartInTheRightFolder) {
+    SetProgram(QStringLiteral("End"));
+    Action("MenueReadProgram")->trigger();
+    EXPECT_TRUE(script->initialPaths.last().startsWith(QCoreApplication::applicationDirPath()))
+        << "at first the program's own folder";
+    const QString path = folder.filePath(QStringLiteral("c.Prg"));
+    script->files = {path};
+    Action("MenueWriteProgram")->trigger();
+    Action("MenueReadProgram")->trigger();
+    EXPECT_EQ(script->initialPaths.last(), path) << "the current file";
+    QString bare = QStringLiteral("d.Prg");
+    EXPECT_FALSE(window->SetFileNameCAL(bare, 3));
+    EXPECT_EQ(script->initialPaths.last(), folder.filePath(QStringLiteral("d.Prg")))
+        << "a bare name goes to the last folder used";
+}
+
+TEST_F(FilesTest, SamplesSwitchToProgramMode) {
+    Action("MenueSample_1")->trigger();
+    EXPECT_TRUE(Find<QWidget>("ProgramFrame")->isVisible());
+    EXPECT_EQ(Editor()->toPlainText(), QString::fromUtf8(GeneralSamples()[1].text));
+    window->MenueTesmorSample_Click(99);
+    EXPECT_EQ(Editor()->toPlainText(), QString::fromUtf8(TransformSamples()[0].text))
+        << "past the end: the first sample";
+    Editor()->undo();
+    EXPECT_EQ(Editor()->toPlainText(), QString::fromUtf8(GeneralSamples()[1].text));
+}
+
+}  // namespace
+}  // namespace lapdesk::testing

@@ -1,0 +1,160 @@
+// The immediate line, its history gestures, the result label and the error
+// message panel.
+#include "window_fixture.h"
+
+namespace lapdesk::testing {
+namespace {
+
+using ImmediateLineTest = WindowTest;
+
+TEST_F(ImmediateLineTest, EvaluatesLinesAndRecordsThemNewestFirst) {
+    const struct {
+        const char* line;
+        const char* kai;
+    } rows[] = {
+        {"1+2", "3"},
+        {"a = (1+2)", "3"},       // an assignment at the "=" outside brackets
+        {"a*2j", "6j"},           // the variable assigned above
+        {"  Dim V(3)  ", "0"},    // a declaration, even with leading blanks
+        {"V(2) = 1+1j", "1+1j"},  // an element of the declared array
+        {"Sqrt(-4", "Error"},     // an unclosed bracket
+        {"", "Error"},            // an empty line still makes an entry
+    };
+    for (const auto& row : rows) {
+        TypeLine(QString::fromUtf8(row.line));
+        EXPECT_EQ(Kai(), QString::fromUtf8(row.kai)) << row.line;
+        EXPECT_EQ(Find<QListWidget>("HistryList")->item(0)->text(),
+                  QString::fromUtf8(row.line) + " = " + QString::fromUtf8(row.kai));
+    }
+    EXPECT_EQ(Find<QListWidget>("HistryList")->count(), 7);
+    EXPECT_FALSE(window->ImmediateOk());
+}
+
+TEST_F(ImmediateLineTest, ButtonEnterEvaluatesAndHidesTheHint) {
+    auto* hint = Find<QLabel>("Label5");
+    EXPECT_TRUE(hint->isVisible());
+    Immediate()->setText(QStringLiteral("2^10"));
+    Click("ButtonEnter");
+    EXPECT_EQ(Kai(), QStringLiteral("1024"));
+    EXPECT_TRUE(window->ImmediateOk());
+    EXPECT_FALSE(hint->isVisible());
+    EXPECT_EQ(Immediate()->text(), QStringLiteral("2^10"));
+}
+
+TEST_F(ImmediateLineTest, RoundedDisplayShortensValues) {
+    TypeLine(QStringLiteral("1/3"));
+    EXPECT_EQ(Kai(), QStringLiteral("0.333333333333333"));
+    Action("MenueSingleDisp")->trigger();
+    TypeLine(QStringLiteral("1/3"));
+    EXPECT_EQ(Kai(), QStringLiteral("0.333333"));
+}
+
+TEST_F(ImmediateLineTest, DegreesChangeTheAngleUnit) {
+    Action("MenueDegree")->trigger();
+    TypeLine(QStringLiteral("Sin(30)"));
+    EXPECT_EQ(Kai(), QStringLiteral("0.5"));
+    Action("MenueRadian")->trigger();
+    TypeLine(QStringLiteral("Sin(0)"));
+    EXPECT_EQ(Kai(), QStringLiteral("0"));
+}
+
+TEST_F(ImmediateLineTest, CtrlDoubleClickRecallsTheLineAsTyped) {
+    TypeLine(QStringLiteral("a = 3"));
+    TypeLine(QStringLiteral("a+1"));
+    auto* history = Find<QListWidget>("HistryList");
+    ASSERT_EQ(Rows(history), (QStringList{"a+1 = 4", "a = 3 = 3"}));
+    const int pointSize = history->font().pointSize();
+    DoubleClickRow(history, 1, Qt::ControlModifier);
+    EXPECT_EQ(Immediate()->text(), QStringLiteral("a = 3"));
+    EXPECT_EQ(history->font().pointSize(), pointSize) << "recalling does not zoom";
+}
+
+TEST_F(ImmediateLineTest, HistoryDoubleClickZooms) {
+    TypeLine(QStringLiteral("1"));
+    auto* history = Find<QListWidget>("HistryList");
+    QFont font = history->font();
+    font.setPointSize(10);
+    history->setFont(font);
+    const struct {
+        Qt::KeyboardModifiers modifiers;
+        int pointSize;
+    } steps[] = {
+        {Qt::NoModifier, 11},                             // larger
+        {Qt::ShiftModifier, 10},                          // smaller
+        {Qt::ShiftModifier, 9},  {Qt::ShiftModifier, 9},  // not below 9
+        {Qt::AltModifier, 10},                            // any other state: larger
+    };
+    for (const auto& step : steps) {
+        DoubleClickRow(history, 0, step.modifiers);
+        EXPECT_EQ(history->font().pointSize(), step.pointSize);
+    }
+    // An empty history zooms as well.
+    history->clear();
+    QTest::mouseDClick(history->viewport(), Qt::LeftButton, {}, QPoint(10, 10));
+    EXPECT_EQ(history->font().pointSize(), 11);
+}
+
+TEST_F(ImmediateLineTest, ResultAndImmediateBoxZoom) {
+    auto* kai = Find<QLabel>("kai");
+    const int kaiSize = kai->font().pointSize();
+    QTest::mouseClick(kai, Qt::LeftButton);
+    EXPECT_EQ(kai->font().pointSize(), kaiSize + 1);
+    QTest::mouseClick(kai, Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_EQ(kai->font().pointSize(), kaiSize);
+    QTest::mousePress(kai, Qt::LeftButton, {}, QPoint(5, 5));
+    QTest::mouseRelease(kai, Qt::LeftButton, {}, QPoint(80, 5));
+    EXPECT_EQ(kai->font().pointSize(), kaiSize) << "a drag selects, it does not zoom";
+
+    QLineEdit* box = Immediate();
+    const int boxSize = box->font().pointSize();
+    QTest::mouseDClick(box, Qt::LeftButton);
+    EXPECT_EQ(box->font().pointSize(), boxSize + 1);
+    QTest::mouseDClick(box, Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_EQ(box->font().pointSize(), boxSize);
+}
+
+TEST_F(ImmediateLineTest, ErrmessageBlocksUntilDoubleClicked) {
+    window->Errmessage("最初の行\r\n次の行");
+    ASSERT_EQ(messages, QStringList{QStringLiteral("最初の行\n次の行")});
+    EXPECT_FALSE(buttonsWhileWaiting);
+    EXPECT_FALSE(fileMenuWhileWaiting);
+    EXPECT_FALSE(window->MessageWaiting());
+    EXPECT_FALSE(Find<QWidget>("MessageBase")->isVisible());
+    EXPECT_TRUE(Find<QWidget>("ProgramButtons")->isEnabled());
+}
+
+TEST_F(ImmediateLineTest, WaiteBlocksUntilDoubleClicked) {
+    bool waitingMeanwhile = false;
+    QTimer::singleShot(0, window.get(), [&] {
+        waitingMeanwhile = window->MessageWaiting();
+        QTest::mouseDClick(Find<QLabel>("MessageBox"), Qt::LeftButton);
+    });
+    window->Waite();
+    EXPECT_TRUE(waitingMeanwhile);
+    EXPECT_FALSE(window->MessageWaiting());
+}
+
+TEST_F(ImmediateLineTest, OneDoubleClickEndsNestedWaits) {
+    window->disconnect(SIGNAL(messageShown(QString)));
+    bool innerReturned = false;
+    QString shownWhenDismissed;
+    QObject::connect(
+        window.get(), &FrmCplCal::messageShown, window.get(),
+        [&](const QString& message) {
+            if (message == QStringLiteral("first")) {
+                window->Errmessage("second");
+                innerReturned = true;
+                return;
+            }
+            shownWhenDismissed = Find<QLabel>("MessageBox")->text();
+            QTest::mouseDClick(Find<QLabel>("MessageBox"), Qt::LeftButton);
+        },
+        Qt::QueuedConnection);
+    window->Errmessage("first");
+    EXPECT_TRUE(innerReturned);
+    EXPECT_EQ(shownWhenDismissed, QStringLiteral("second"));
+    EXPECT_FALSE(window->MessageWaiting());
+}
+
+}  // namespace
+}  // namespace lapdesk::testing

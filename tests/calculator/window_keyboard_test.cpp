@@ -1,0 +1,152 @@
+// The on-screen keyboard: character keys in both layers, the keypad, and the
+// control keys acting on the active text box.
+#include <QApplication>
+#include <QClipboard>
+
+#include "window_fixture.h"
+
+namespace lapdesk::testing {
+namespace {
+
+class KeyboardTest : public WindowTest {
+  protected:
+    void Key(int index) { Click(QStringLiteral("Key_%1").arg(index).toLatin1().constData()); }
+    void TenKey(int index) { Click(QStringLiteral("TenKey_%1").arg(index).toLatin1().constData()); }
+    // Presses the control key with this caption.
+    void Control(const QString& caption) {
+        for (QPushButton* key : window->findChildren<QPushButton*>()) {
+            if (key->objectName().startsWith(QStringLiteral("Ctlkey_")) && key->text() == caption) {
+                QTest::mouseClick(key, Qt::LeftButton);
+                return;
+            }
+        }
+        ADD_FAILURE() << "no control key " << caption.toStdString();
+    }
+    // The label as the key shows it ("&&" is how a button shows "&").
+    QString KeyText(int index) {
+        QPushButton* key =
+            Find<QPushButton>(QStringLiteral("Key_%1").arg(index).toLatin1().constData());
+        return key->text().replace(QStringLiteral("&&"), QStringLiteral("&"));
+    }
+};
+
+TEST_F(KeyboardTest, CharacterKeysInsertAtTheCaret) {
+    Immediate()->setFocus();
+    for (int key : {0, 38, 1, 47, 12, 11})
+        Key(key);  // 1 / 2 Space a Tab
+    EXPECT_EQ(Immediate()->text(), QStringLiteral("1/2 a    "));
+    Immediate()->setCursorPosition(1);
+    Key(10);  // π
+    EXPECT_EQ(Immediate()->text(), QStringLiteral("1π/2 a    "));
+    EXPECT_EQ(Immediate()->cursorPosition(), 2);
+}
+
+TEST_F(KeyboardTest, ShiftedLayer) {
+    Immediate()->setFocus();
+    EXPECT_EQ(KeyText(12), QStringLiteral("a"));
+    Control(QStringLiteral("CAPS"));
+    const struct {
+        int key;
+        const char* label;
+    } shifted[] = {{0, "!"},  {1, ""},   {2, "#"},      {7, "{"},  {8, "}"},
+                   {9, ""},   {10, "π"}, {12, "A"},     {37, "Z"}, {38, "?"},
+                   {44, "+"}, {45, "="}, {47, "Space"}, {48, "~"}, {50, "|"}};
+    for (const auto& s : shifted)
+        EXPECT_EQ(KeyText(s.key), QString::fromUtf8(s.label)) << s.key;
+    EXPECT_EQ(KeyText(5), QStringLiteral("&"));
+    for (int key : {0, 1, 9, 12, 5})
+        Key(key);  // ! (nothing) (nothing) A &
+    EXPECT_EQ(Immediate()->text(), QStringLiteral("!A&"));
+    Control(QStringLiteral("CAPS"));
+    Key(12);
+    EXPECT_EQ(Immediate()->text(), QStringLiteral("!A&a"));
+}
+
+TEST_F(KeyboardTest, KeypadAndEnterEvaluate) {
+    Immediate()->setFocus();
+    for (int key : {8, 11, 9, 3, 10})
+        TenKey(key);  // 1 - 2 / 3
+    EXPECT_EQ(Immediate()->text(), QStringLiteral("1-2/3"));
+    Control(QStringLiteral("ENT"));
+    EXPECT_EQ(Kai(), QStringLiteral("0.333333333333333"));
+    EXPECT_EQ(Immediate()->text(), QStringLiteral("1-2/3")) << "no line break in the immediate box";
+}
+
+TEST_F(KeyboardTest, ControlKeysEditTheImmediateLine) {
+    const struct {
+        const char* keys;  // control key captions separated by blanks
+        const char* text;
+        int caret;
+    } rows[] = {
+        {"BS", "abc", 3},  // the box starts as "abcd" with the caret at the end
+        {"← ← BS", "acd", 1},
+        {"← DEL", "abc", 3},
+        {"CLR", "", 0},
+        {"C", "", 0},
+        {"=", "abcd=", 5},
+        {"SEL ← ← SEL CUT", "ab", 2},
+        {"SEL ← ← SEL =", "ab=", 3},
+        {"← ← → =", "abc=d", 4},
+        {"NOSUCH", "abcd", 4},
+    };
+    for (const auto& row : rows) {
+        Immediate()->setText(QStringLiteral("abcd"));
+        Immediate()->setFocus();
+        for (const QString& key : QString::fromUtf8(row.keys).split(' ')) {
+            if (key == QStringLiteral("NOSUCH")) continue;
+            Control(key);
+        }
+        EXPECT_EQ(Immediate()->text(), QString::fromUtf8(row.text)) << row.keys;
+        EXPECT_EQ(Immediate()->cursorPosition(), row.caret) << row.keys;
+        EXPECT_TRUE(Immediate()->hasFocus()) << row.keys;
+    }
+}
+
+TEST_F(KeyboardTest, ClipboardKeys) {
+    QClipboard* clipboard = QApplication::clipboard();
+    Immediate()->setText(QStringLiteral("12+3"));
+    Immediate()->setFocus();
+    Control(QStringLiteral("COPY"));
+    EXPECT_EQ(clipboard->text(), QStringLiteral("12+3")) << "nothing selected: the whole text";
+    Immediate()->setSelection(0, 2);
+    Control(QStringLiteral("COPY"));
+    EXPECT_EQ(clipboard->text(), QStringLiteral("12"));
+    Immediate()->setSelection(2, 2);
+    Control(QStringLiteral("CUT"));
+    EXPECT_EQ(clipboard->text(), QStringLiteral("+3"));
+    EXPECT_EQ(Immediate()->text(), QStringLiteral("12"));
+    Immediate()->setCursorPosition(0);
+    Control(QStringLiteral("PAST"));
+    EXPECT_EQ(Immediate()->text(), QStringLiteral("+312"));
+}
+
+TEST_F(KeyboardTest, ProgramTextGetsLineBreaks) {
+    SetProgram(QString());
+    Editor()->setFocus();
+    Key(12);
+    Control(QStringLiteral("ENT"));
+    Key(13);
+    EXPECT_EQ(Editor()->toPlainText(), QStringLiteral("a\nb"));
+    Control(QStringLiteral("←"));
+    Control(QStringLiteral("BS"));
+    EXPECT_EQ(Editor()->toPlainText(), QStringLiteral("ab"));
+    EXPECT_TRUE(Editor()->hasFocus());
+}
+
+TEST_F(KeyboardTest, EscapePutsTheKeyboardAway) {
+    Control(QStringLiteral("ESC"));
+    EXPECT_FALSE(Find<QWidget>("FrameKeyBoard")->isVisible());
+}
+
+TEST_F(KeyboardTest, InsertAtCaretReplacesTheSelection) {
+    Immediate()->setText(QStringLiteral("Sin(x)"));
+    Immediate()->setFocus();
+    Immediate()->setSelection(4, 1);
+    window->InsertAtCaret(QStringLiteral("π/2"));
+    EXPECT_EQ(Immediate()->text(), QStringLiteral("Sin(π/2)"));
+    EXPECT_EQ(Immediate()->cursorPosition(), 7);
+    EXPECT_FALSE(Immediate()->hasSelectedText());
+}
+
+}  // namespace
+}  // namespace lapdesk::testing

@@ -1,0 +1,218 @@
+// Modes, program runs in both display modes, stopping, and errors of a run.
+#include <QApplication>
+#include <QCheckBox>
+#include <QMenu>
+
+#include "calculator/code_editor.h"
+#include "calculator/progress_meter.h"
+#include "window_fixture.h"
+
+namespace lapdesk::testing {
+namespace {
+
+using ProgramTest = WindowTest;
+
+const QString kSum = QStringLiteral(
+    "' 1 から 10 までの和\n"
+    "s = 0\n"
+    "For i = 1 To 10\n"
+    "  s = s + i\n"
+    "Next\n"
+    "Return s\n"
+    "End\n");
+
+TEST_F(ProgramTest, ModesShowTheirControls) {
+    QTest::mouseClick(Find<QWidget>("OptionProgram"), Qt::LeftButton);
+    EXPECT_TRUE(Find<QWidget>("ProgramFrame")->isVisible());
+    EXPECT_FALSE(Find<QWidget>("HistryList")->isVisible());
+    EXPECT_FALSE(Find<QWidget>("FrameKeyBoard")->isVisible());
+    for (const char* name : {"MenueExe", "MenueExeList", "MenueReadProgram", "MenueWriteProgram"}) {
+        EXPECT_TRUE(Action(name)->isEnabled()) << name;
+    }
+    QTest::mouseClick(Find<QWidget>("OptionNomal"), Qt::LeftButton);
+    EXPECT_FALSE(Find<QWidget>("ProgramFrame")->isVisible());
+    EXPECT_TRUE(Find<QWidget>("HistryList")->isVisible());
+    EXPECT_FALSE(Find<QWidget>("FrameKeyBoard")->isVisible()) << "shown again only on request";
+    for (const char* name : {"MenueExe", "MenueExeList", "MenueReadProgram", "MenueWriteProgram"}) {
+        EXPECT_FALSE(Action(name)->isEnabled()) << name;
+    }
+    Click("CommandKeyBoard");
+    EXPECT_TRUE(Find<QWidget>("FrameKeyBoard")->isVisible());
+}
+
+TEST_F(ProgramTest, RunShowingTheProgramText) {
+    SetProgram(kSum);
+    Click("ButtonPrgRun");
+    EXPECT_EQ(Kai(), QStringLiteral("Result=55"));
+    EXPECT_TRUE(Editor()->isVisible());
+    EXPECT_FALSE(Find<QWidget>("ProgramList")->isVisible());
+    EXPECT_EQ(Find<QPushButton>("ButtonPrgRun")->text(), QStringLiteral("実　行"));
+    EXPECT_EQ(Action("MenueExeList")->text(), QStringLiteral("実行リスト表示"));
+    EXPECT_TRUE(messages.isEmpty()) << messages.join('\n').toStdString();
+}
+
+TEST_F(ProgramTest, RunShowingTheExecutionList) {
+    SetProgram(kSum);
+    Find<QCheckBox>("CheckExeList")->setChecked(true);
+    Click("ButtonPrgRun");
+    EXPECT_EQ(Kai(), QStringLiteral("Result=55"));
+    auto* list = Find<QListWidget>("ProgramList");
+    EXPECT_TRUE(list->isVisible());
+    EXPECT_FALSE(Editor()->isVisible());
+    EXPECT_EQ(Rows(list),
+              (QStringList{"s = 0", "For i = 1 To 10", "s = s + i", "Next", "Return s", "End"}));
+    EXPECT_EQ(list->currentRow(), 4) << "the list follows the running line to Return";
+    EXPECT_EQ(Find<QPushButton>("ButtonPrgRun")->text(), QStringLiteral("プログラム"));
+    EXPECT_EQ(Action("MenueExeList")->text(), QStringLiteral("プログラム表示"));
+
+    // The first press only goes back to the text; the second runs again.
+    Find<QLabel>("kai")->clear();
+    Click("ButtonPrgRun");
+    EXPECT_TRUE(Editor()->isVisible());
+    EXPECT_EQ(Kai(), QString());
+    EXPECT_EQ(Find<QPushButton>("ButtonPrgRun")->text(), QStringLiteral("実　行"));
+    Click("ButtonPrgRun");
+    EXPECT_EQ(Kai(), QStringLiteral("Result=55"));
+}
+
+TEST_F(ProgramTest, ExecutionListMenuSwitchesBothCaptions) {
+    SetProgram(kSum);
+    Action("MenueExeList")->trigger();
+    EXPECT_TRUE(Find<QWidget>("ProgramList")->isVisible());
+    EXPECT_EQ(Find<QPushButton>("ButtonPrgRun")->text(), QStringLiteral("プログラム"));
+    Action("MenueExeList")->trigger();
+    EXPECT_TRUE(Editor()->isVisible());
+    EXPECT_EQ(Find<QPushButton>("ButtonPrgRun")->text(), QStringLiteral("実　行"));
+    // Leaving program mode also leaves the list.
+    Action("MenueExeList")->trigger();
+    QTest::mouseClick(Find<QWidget>("OptionNomal"), Qt::LeftButton);
+    EXPECT_EQ(Action("MenueExeList")->text(), QStringLiteral("実行リスト表示"));
+}
+
+TEST_F(ProgramTest, CtrlEnterRuns) {
+    SetProgram(QStringLiteral("Return 6*7\nEnd"));
+    Editor()->setFocus();
+    QTest::keyClick(Editor(), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(Kai(), QStringLiteral("Result=42"));
+}
+
+TEST_F(ProgramTest, StopEndsARunawayLoop) {
+    SetProgram(QStringLiteral("n = 0\nDo\n  n = n + 1\nLoop\nEnd"));
+    for (const bool byEsc : {false, true}) {
+        // The stop arrives while the loop runs: the run lets events through.
+        QApplication::processEvents();
+        QTimer::singleShot(0, window.get(), [this, byEsc] {
+            if (byEsc) {
+                QTest::keyClick(window.get(), Qt::Key_Escape);
+            } else {
+                Click("ButtonStop");
+            }
+        });
+        QTest::mouseClick(Find<QPushButton>("ButtonPrgRun"), Qt::LeftButton);
+        EXPECT_EQ(Kai(), QStringLiteral("End of Analize Page Number=1")) << "by Esc: " << byEsc;
+        EXPECT_TRUE(messages.isEmpty()) << "a stop is not an error";
+        EXPECT_TRUE(Find<QPushButton>("ButtonPrgRun")->isEnabled());
+        EXPECT_TRUE(window->StopRequested()) << "reset only when the next run starts";
+    }
+    Editor()->setPlainText(QStringLiteral("Return 1\nEnd"));
+    Click("ButtonPrgRun");
+    EXPECT_EQ(Kai(), QStringLiteral("Result=1")) << "the next run starts afresh";
+}
+
+TEST_F(ProgramTest, RunButtonsAreDisabledWhileRunning) {
+    SetProgram(QStringLiteral("Do\nLoop\nEnd"));
+    bool runEnabled = true;
+    bool stopEnabled = false;
+    QApplication::processEvents();
+    QTimer::singleShot(0, window.get(), [&] {
+        runEnabled = Find<QPushButton>("ButtonPrgRun")->isEnabled();
+        stopEnabled = Find<QPushButton>("ButtonStop")->isEnabled();
+        window->ButtonStop_Click();
+    });
+    QTest::mouseClick(Find<QPushButton>("ButtonPrgRun"), Qt::LeftButton);
+    EXPECT_FALSE(runEnabled);
+    EXPECT_TRUE(stopEnabled);
+}
+
+TEST_F(ProgramTest, AnalysisErrorIsShownAndItsLineMarked) {
+    SetProgram(QStringLiteral("' 和\ns = 0\n\nFor i = 1 To 3\n  s = s + i\nReturn s\nEnd"));
+    Click("ButtonPrgRun");
+    ASSERT_EQ(messages.size(), 1);
+    EXPECT_TRUE(messages[0].startsWith(QStringLiteral("Main: 2行目解析エラー\nFor i = 1 To 3:")))
+        << messages[0].toStdString();
+    EXPECT_FALSE(buttonsWhileWaiting);
+    EXPECT_FALSE(fileMenuWhileWaiting);
+    EXPECT_TRUE(Find<QWidget>("ProgramButtons")->isEnabled());
+    EXPECT_FALSE(Find<QWidget>("MessageBase")->isVisible());
+    auto* editor = Find<CodeEditor>("ProgramText");
+    EXPECT_EQ(editor->errorLine(), 3);
+    QTest::keyClick(editor, Qt::Key_Space);
+    EXPECT_EQ(editor->errorLine(), -1) << "an edit removes the mark";
+}
+
+TEST_F(ProgramTest, RunErrorMarksTheStatementInAFunction) {
+    // The function's own failure comes first; Main's failing call after it.
+    SetProgram(QStringLiteral(
+        "Return F(0)\nEnd\nFunction F(x)\n  y = 1 : z = w + 1\n  Return z\nEnd Function"));
+    Click("ButtonPrgRun");
+    ASSERT_EQ(messages.size(), 2);
+    EXPECT_TRUE(messages[0].startsWith(QStringLiteral("F: 3行目実行エラー\nz = w + 1")));
+    EXPECT_EQ(Find<CodeEditor>("ProgramText")->errorLine(), 3) << messages.join('\n').toStdString();
+}
+
+TEST_F(ProgramTest, AnEditForcesAFreshAnalysis) {
+    SetProgram(kSum);
+    Click("ButtonPrgRun");
+    EXPECT_TRUE(window->interpreter().ProgramAnalysed());
+    QTest::keyClick(Editor(), Qt::Key_Space);
+    EXPECT_FALSE(window->interpreter().ProgramAnalysed());
+    Editor()->undo();
+    EXPECT_EQ(Editor()->toPlainText(), kSum) << "edits can be undone";
+}
+
+// Globals are erased before an analysis: MenueExe always asks for it, the
+// run button only when MenueClearGlVar is checked.
+TEST_F(ProgramTest, MenueExeErasesGlobalsButTheRunButtonDoesNot) {
+    TypeLine(QStringLiteral("q = 7"));
+    SetProgram(QStringLiteral("Return q\nEnd"));
+    Action("MenueExe")->trigger();
+    EXPECT_EQ(Kai(), QStringLiteral("End of Analize Page Number=1"));
+    EXPECT_EQ(messages.size(), 1) << "q is gone";
+    EXPECT_EQ(window->interpreter().ImmediatePage().NumofMemory(), 0);
+
+    TypeLine(QStringLiteral("q = 7"));
+    Editor()->setPlainText(QStringLiteral("Return q \nEnd"));
+    Click("ButtonPrgRun");
+    EXPECT_EQ(Kai(), QStringLiteral("Result=7"));
+}
+
+TEST_F(ProgramTest, ClearGlVarMakesTheRunButtonEraseGlobals) {
+    script->answers = {QMessageBox::Yes};
+    Action("MenueClearGlVar")->trigger();
+    ASSERT_TRUE(Action("MenueClearGlVar")->isChecked());
+    TypeLine(QStringLiteral("q = 7"));
+    SetProgram(QStringLiteral("Return 1\nEnd"));
+    Click("ButtonPrgRun");
+    EXPECT_EQ(window->interpreter().ImmediatePage().NumofMemory(), 0);
+}
+
+TEST_F(ProgramTest, MeterResetsToTicksAndGrows) {
+    window->CalProcMeter(100, true);
+    auto* meter = Find<ProgressMeter>("Meter");
+    EXPECT_FALSE(Find<QWidget>("PrgRningBox")->isHidden());
+    EXPECT_EQ(meter->scale(), 100);
+    EXPECT_EQ(meter->ticks().size(), 21u);
+    const struct {
+        double value;
+        double bar;
+    } steps[] = {{0, 0}, {-1, 0}, {40, 40}, {20, 40}, {100, 100}};
+    for (const auto& step : steps) {
+        window->CalProcMeter(step.value, false);
+        EXPECT_EQ(meter->bar(), step.bar) << step.value;
+    }
+    window->CalProcMeter(50, true);
+    EXPECT_EQ(meter->bar(), 0) << "a reset clears the bar";
+}
+
+}  // namespace
+}  // namespace lapdesk::testing
