@@ -94,11 +94,19 @@ bool Interpreter::EnterCall() {
 }
 
 bool Interpreter::RunProgram(double& re, double& im, bool eraseGlobals, bool run) {
+    if (Busy()) return false;
+    busy_ = true;
+    const bool ok = RunProgramOnce(re, im, eraseGlobals, run);
+    busy_ = false;
+    return ok;
+}
+
+bool Interpreter::RunProgramOnce(double& re, double& im, bool eraseGlobals, bool run) {
     view_->HideHint();
     view_->SetKai("");
     view_->ProcessEvents();
     if (!programAnalysed_) {
-        if (eraseGlobals) EraseGlobals();
+        if (eraseGlobals) EraseAllMemories();
         view_->SetKai("Now Analising");
         view_->SetPhaseColour(kAnalysingColour);
         programAnalysed_ = CutProgram();
@@ -176,6 +184,10 @@ bool Interpreter::BuildPages(const std::vector<std::string>& statements) {
 }
 
 void Interpreter::EraseGlobals() {
+    if (!Busy()) EraseAllMemories();
+}
+
+void Interpreter::EraseAllMemories() {
     ImmediatePage().AEraseMemorys();
     view_->ClearMemoryDisplay();
     for (const auto& page : pages_)

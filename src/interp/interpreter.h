@@ -50,6 +50,7 @@ class Interpreter {
     // Analyses (where needed) and runs "Main"; the status goes to kai.
     bool RunProgram(double& re, double& im, bool eraseGlobals, bool run);
     bool CutProgram();
+    // Erases the global memory and every page's memory (not while busy).
     void EraseGlobals();
 
     // The immediate line: a declaration ("global "/"Dim "), an assignment at
@@ -62,7 +63,15 @@ class Interpreter {
     void LeaveCall() { --callDepth_; }
     bool Running() const { return callDepth_ > 0; }
 
+    // True while RunProgram is at work. The window lets events run during a
+    // program (and waits on messages inside it), so a second RunProgram or an
+    // erase of the globals from there is refused instead of pulling the
+    // pages away from under the first.
+    bool Busy() const { return busy_ || Running(); }
+
   private:
+    bool RunProgramOnce(double& re, double& im, bool eraseGlobals, bool run);
+    void EraseAllMemories();
     bool BuildPages(const std::vector<std::string>& statements);
 
     InterpreterView* view_;
@@ -73,6 +82,7 @@ class Interpreter {
     std::string programText_;
     bool programAnalysed_ = false;
     int callDepth_ = 0;
+    bool busy_ = false;
 };
 
 }  // namespace lapdesk

@@ -154,3 +154,38 @@ TEST_F(Driver, EachRunStartsFromAZeroValue) {
 
 }  // namespace
 }  // namespace lapdesk
+
+namespace lapdesk {
+namespace {
+
+// Lets "window events" run a second program and erase the globals in the
+// middle of the first run, as a click elsewhere in the window could.
+class ReenteringView : public RecordingView {
+  public:
+    Interpreter* session = nullptr;
+    int refusedRuns = 0;
+    void ProcessEvents() override {
+        if (session == nullptr || !session->Busy()) return;
+        double re = 0.0;
+        double im = 0.0;
+        if (!session->RunProgram(re, im, true, true)) ++refusedRuns;
+        session->EraseGlobals();
+    }
+};
+
+TEST(DriverReentry, ARunStartedDuringARunIsRefused) {
+    ReenteringView view;
+    Interpreter session(view);
+    session.SetProgramText(
+        ProgramText({"s = 0", "For i = 1 To 3", "s = s + i", "Next", "Return s", "End"}));
+    view.session = &session;
+    double re = 0.0;
+    double im = 0.0;
+    ASSERT_TRUE(session.RunProgram(re, im, true, true));
+    EXPECT_EQ(re, 6.0);
+    EXPECT_GT(view.refusedRuns, 0);
+    EXPECT_FALSE(session.Busy());
+}
+
+}  // namespace
+}  // namespace lapdesk

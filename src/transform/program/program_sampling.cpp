@@ -43,7 +43,8 @@ bool ASetLapOpValur(Interpreter& session, const TransformDriver& driver) {
 
 bool TesmorDataSet(TransformDriver& driver, Interpreter& session) {
     const Conditions c = driver.GetConditions();
-    if (!(c.T > 0 && c.N != 0 && c.Gamma0 != 0)) {
+    // A program already running (the calculator's own run) is not disturbed.
+    if (!(c.T > 0 && c.N != 0 && c.Gamma0 != 0) || session.Busy()) {
         driver.SetStatus("データ作成不許可");
         return false;
     }
