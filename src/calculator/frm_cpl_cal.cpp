@@ -129,6 +129,10 @@ void FrmCplCal::OptionProgram_Click() {
     if (isVisible()) programText_->setFocus();
 }
 
+void FrmCplCal::ShowProgramMode() {
+    optionProgram_->setChecked(true);
+}
+
 void FrmCplCal::CommandKeyBoard_Click() {
     keyboard_->setVisible(keyboard_->isHidden());
 }

@@ -57,6 +57,8 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     // Modes and runs.
     void OptionNomal_Click();
     void OptionProgram_Click();
+    // Selects program mode as its option button does.
+    void ShowProgramMode();
     void ButtonPrgRun_Click();
     void MenueExe_Click();
     void ButtonStop_Click() { stopRequested_ = true; }
@@ -118,6 +120,8 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     void ClearMemoryDisplay() override;
     void CalProcMeter(double value, bool reset) override;
     bool StopRequested() const override { return stopRequested_; }
+    void ClearStopRequest() override { stopRequested_ = false; }
+    void ShowTransformProgress(bool on) override { SetProgressView(on); }
     void ProcessEvents() override;
 
   signals:

@@ -87,7 +87,7 @@ void FrmCplCal::LoadSample(const std::vector<SampleProgram>& samples, int index)
                               ? static_cast<std::size_t>(index)
                               : 0;
     ReplaceText(programText_, QString::fromUtf8(samples[k].text));
-    optionProgram_->setChecked(true);
+    ShowProgramMode();
 }
 
 }  // namespace lapdesk

@@ -1,5 +1,6 @@
 // The outputs shared by the verbs that run the transform: the result text
-// (the data file layout) to a file or standard output, and a CSV table.
+// (the data file layout) to a file or standard output, a CSV table, and, in
+// builds with the desktop windows, a plot image.
 #pragma once
 
 #include <optional>
@@ -19,6 +20,9 @@ namespace lapdesk::cli {
 struct TransformOutputOptions {
     std::optional<std::string> output;
     std::optional<std::string> csv;
+#ifdef LAPDESK_CLI_PLOT
+    std::optional<std::string> plot;
+#endif
 
     void AddTo(CLI::App& command);
 };

@@ -1,0 +1,13 @@
+// lapdesk: starts the transform window, which creates and links the
+// calculator and the import wizard; closing it ends the program.
+#include <QApplication>
+
+#include "transform/window/tesmor_form.h"
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("lapdesk"));
+    lapdesk::TesmorForm form;
+    form.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,80 @@
+// ReadFileWisard: the modal dialog that previews the first lines of a text
+// table and asks how to read it: the parameter line, the first data line, the
+// first column, the delimiter (and, when the caller wants it, a channel
+// number). The caller fills the labels, shows the dialog and reads the labels
+// back; one instance serves the whole program, so the answers are kept from
+// one use to the next.
+#pragma once
+
+#include <QDialog>
+#include <QString>
+
+class QComboBox;
+class QLabel;
+class QListWidget;
+class QPushButton;
+
+namespace lapdesk {
+
+// The exchange with the caller. The starting answers read back a file that
+// the transform window saved.
+struct WisardLabels {
+    QString FileNameLb;     // the file to preview (caller)
+    int MaxColumnLb = 5;    // how many column numbers to offer (caller)
+    int SpecialLb = 2;      // the parameter line, 1-based
+    int TopRowLb = 4;       // the first data line, 1-based
+    int TopColumnLb = 1;    // the first column, 1-based
+    int ChnoLb = 1;         // the channel number
+    QString DelmLb = ",";   // the delimiter text
+    bool OkFlagLb = false;  // set by OK; reset before every showing
+};
+
+class ReadFileWisard : public QDialog {
+    Q_OBJECT
+  public:
+    explicit ReadFileWisard(QWidget* parent = nullptr);
+
+    WisardLabels& labels() { return labels_; }
+
+    // Offers the channel list next to the column list.
+    void ShowChannelList(bool shown);
+
+    // Resets the accepted flag, previews the file named in FileNameLb and
+    // shows the dialog modally. A file that cannot be read closes it at once,
+    // as Cancel does. Returns the accepted flag.
+    bool ShowModal();
+
+    void ButtonOk_Click();
+    void ButtonCalcel_Click();
+
+  signals:
+    // The lists are filled and the dialog is about to show.
+    void activated();
+
+  public slots:
+    // Esc and the window's close box act as Cancel.
+    void reject() override;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    bool Activate();
+    void FillNumberList(QListWidget* list, int count, int answer);
+    void MarkPreview();
+    QListWidget* MakeNumberList(const char* name, int WisardLabels::*answer);
+    void ClosePreview(int result);
+
+    WisardLabels labels_;
+    QListWidget* sampleList_ = nullptr;
+    QListWidget* specialRow_ = nullptr;
+    QListWidget* topRow_ = nullptr;
+    QListWidget* topColumn_ = nullptr;
+    QListWidget* chnoList_ = nullptr;
+    QWidget* channelBox_ = nullptr;
+    QComboBox* delimiterList_ = nullptr;
+    QPushButton* buttonOk_ = nullptr;
+    QLabel* fileLabel_ = nullptr;
+};
+
+}  // namespace lapdesk

@@ -1,0 +1,234 @@
+// The transform window's commands: making the data with the calculator's
+// program, the transform, drawing, the result frame, the state labels and
+// their enabling rules, the status line, and the end of the program.
+#include "transform/window/tesmor_form.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+
+#include "calculator/frm_cpl_cal.h"
+#include "transform/ldt_file.h"
+#include "transform/program/program_sampling.h"
+#include "transform/window/draggable_frame.h"
+#include "transform/window/plot/scrn_plot.h"
+
+namespace lapdesk {
+
+namespace {
+
+const QString kWritingResultText =
+    QStringLiteral("結果のテキストデータ作成中 もう一寸待ってね！！");
+
+QString FromStd(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+// The result text with the line breaks the text box expects.
+QString DisplayText(const std::string& text) {
+    QString shown = FromStd(text);
+    shown.remove(QLatin1Char('\r'));
+    return shown;
+}
+
+// "OK" and "Math"/"File" stand out from "Non".
+void ShowState(QLabel* label, const std::string& text, bool good) {
+    label->setText(FromStd(text));
+    label->setStyleSheet(good ? QStringLiteral("color: #0b6e2e; font-weight: bold;")
+                              : QStringLiteral("color: #777;"));
+}
+
+}  // namespace
+
+void TesmorForm::ASetLapOpValur() {
+    lapdesk::ASetLapOpValur(calculator_->interpreter(), driver_);
+}
+
+// Runs the program for every sample point, then transforms and shows the
+// result.
+bool TesmorForm::TesmorDataSet() {
+    if (busy_) return false;
+    SetBusy(true);
+    const bool made = lapdesk::TesmorDataSet(driver_, calculator_->interpreter());
+    SetBusy(false);
+    if (made) ShowNewResult();
+    ShowStateLabels();
+    return made;
+}
+
+void TesmorForm::ZOrder() {
+    show();
+    raise();
+    activateWindow();
+}
+
+void TesmorForm::SetStatus(const QString& text) {
+    statusBar_->setText(text);
+    statusBar_->setToolTip(QString());
+    ShowStateLabels();
+    statusBar_->repaint();
+    emit statusChanged(text);
+}
+
+// The reason behind a failure status, for the curious, on the status line's
+// tooltip.
+void TesmorForm::ShowFailure(const std::string& reason) {
+    statusBar_->setToolTip(FromStd(reason));
+}
+
+// The labels show the driver's parameters and states; the states enable the
+// commands that need data or a result.
+void TesmorForm::ShowStateLabels() {
+    wordNumberLb_->setText(FromStd(driver_.WordNumberLb()));
+    tendLb_->setText(FromStd(driver_.TendLb()));
+    ganmalb_->setText(FromStd(driver_.Ganmalb()));
+    cosinTableLb_->setText(FromStd(driver_.CosinTableLb()));
+    const bool data = driver_.DataSourceLb() != kLabelNon;
+    const bool result = driver_.ResultLb() == kLabelOk;
+    ShowState(dataSourceLb_, driver_.DataSourceLb(), data);
+    ShowState(resultLb_, driver_.ResultLb(), result);
+    buttonExeTesmor_->setEnabled(data);
+    buttonResultWrite_->setEnabled(data);
+    buttonDrawResult_->setEnabled(result);
+    menueWriteResult_->setEnabled(result && !busy_);
+}
+
+// While the program makes the data, only the calculator's stop and the end
+// of the program are offered.
+void TesmorForm::SetBusy(bool busy) {
+    busy_ = busy;
+    buttonsFrame_->setEnabled(!busy);
+    conditionsFrame_->setEnabled(!busy);
+    for (QAction* action : busyActions_) {
+        action->setEnabled(!busy);
+    }
+    ShowStateLabels();
+}
+
+// Opening the calculator hides the result frame; the calculator opens in
+// program mode, beside this window the first time.
+void TesmorForm::OpenCalculator() {
+    frame3_->hide();
+    if (!calculatorPlaced_) {
+        calculatorPlaced_ = true;
+        const QScreen* screen = this->screen();
+        const QPoint beside = frameGeometry().topRight() + QPoint(8, 0);
+        if (screen != nullptr &&
+            screen->availableGeometry().contains(QRect(beside, calculator_->frameSize()))) {
+            calculator_->move(beside);
+        }
+    }
+    calculator_->ShowProgramMode();
+    calculator_->show();
+    calculator_->raise();
+    calculator_->activateWindow();
+}
+
+// "実行": the calculator's own data command, so that both windows know a
+// program is running; it calls back ASetLapOpValur, TesmorDataSet and ZOrder.
+void TesmorForm::Command2_Click() {
+    OpenCalculator();
+    calculator_->ButtonExeProgToMakeTesmorData_Click();
+}
+
+void TesmorForm::ButtonCallPfunction_Click() {
+    OpenCalculator();
+}
+
+void TesmorForm::ButtonExeTesmor_Click() {
+    const Outcome inverted = driver_.Invert();
+    if (inverted.ok) {
+        ShowNewResult();
+    } else {
+        ShowFailure(inverted.reason);
+    }
+}
+
+// After every transform: the result table in Text1, the frame shown, and
+// f(t) drawn.
+void TesmorForm::ShowNewResult() {
+    SetStatus(kWritingResultText);
+    text1_->setPlainText(DisplayText(WriteResultText(driver_)));
+    MenueResultMemo_Click();
+    DrawContent(kNowDispResult, true);
+    SetStatus(QString());
+}
+
+void TesmorForm::ButtonClearScreen_Click() {
+    nowDispLb_->clear();
+    ClearReadout();
+    scrn_->ClearScreen(driver_.GetConditions().T);
+}
+
+// A readout belongs to the drawing it was read from.
+void TesmorForm::ClearReadout() {
+    posX_->setText(QStringLiteral("t= "));
+    posY_->setText(QStringLiteral("y= "));
+    floatLb_->hide();
+}
+
+void TesmorForm::ButtonDrawLapData_Click() {
+    DrawContent(kNowDispData, false);
+}
+
+void TesmorForm::ButtonDrawResult_Click() {
+    DrawContent(kNowDispResult, true);
+}
+
+// NowDispLb names what is being drawn; the drawing stops as soon as it
+// names something else (Esc empties it).
+void TesmorForm::DrawContent(std::string_view name, bool result) {
+    const QString shown = QString::fromUtf8(name.data(), name.size());
+    nowDispLb_->setText(shown);
+    ClearReadout();
+    ScrnPlot::DrawControl control;
+    control.keepDrawing = [this, shown] { return nowDispLb_->text() == shown; };
+    control.letEventsRun = [] { QCoreApplication::processEvents(); };
+    scrn_->Draw(result ? ResultContent(driver_) : DataContent(driver_), control);
+}
+
+void TesmorForm::NowDispLb_Stop() {
+    nowDispLb_->clear();
+}
+
+// The frame starts in the plot's upper right corner, where a decaying f(t)
+// leaves room, and stays where the user drags it.
+void TesmorForm::MenueResultMemo_Click() {
+    if (!resultFramePlaced_) {
+        resultFramePlaced_ = true;
+        frame3_->MoveWithin(QPoint(scrn_->width() - frame3_->width() - 24, 24));
+    } else {
+        frame3_->MoveWithin(frame3_->pos());
+    }
+    frame3_->show();
+    frame3_->raise();
+}
+
+void TesmorForm::Command1_Click() {
+    frame3_->hide();
+}
+
+void TesmorForm::Check1_Click() {
+    text1_->setReadOnly(!check1_->isChecked());
+}
+
+void TesmorForm::MenueEnd_Click() {
+    close();
+}
+
+// Closing the main window ends the program: the drawing and any run stop,
+// the calculator closes with it.
+void TesmorForm::closeEvent(QCloseEvent* event) {
+    nowDispLb_->clear();
+    calculator_->close();
+    event->accept();
+    QCoreApplication::quit();
+}
+
+}  // namespace lapdesk

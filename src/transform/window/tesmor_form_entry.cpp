@@ -1,0 +1,125 @@
+// Parameter entry in the transform window (the N list and the T and gamma0
+// boxes) and the plot's cursor readout.
+#include <QApplication>
+#include <QClipboard>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMouseEvent>
+
+#include "transform/window/plot/scrn_plot.h"
+#include "transform/window/tesmor_form.h"
+
+namespace lapdesk {
+
+// The list of N opens below its label, on the present value.
+void TesmorForm::WordNumberLb_Click() {
+    const QPoint below = wordNumberLb_->mapTo(centralWidget(), QPoint(0, wordNumberLb_->height()));
+    wrdList_->setFixedSize(wordNumberLb_->width(), wrdList_->sizeHintForRow(0) * wrdList_->count() +
+                                                       2 * wrdList_->frameWidth());
+    wrdList_->move(below);
+    const QList<QListWidgetItem*> present =
+        wrdList_->findItems(wordNumberLb_->text(), Qt::MatchExactly);
+    if (!present.isEmpty()) wrdList_->setCurrentItem(present.front());
+    wrdList_->show();
+    wrdList_->raise();
+    wrdList_->setFocus();
+}
+
+void TesmorForm::WrdList_Click(QListWidgetItem* item) {
+    driver_.SetWordNumber(item->text().toStdString());
+    wrdList_->hide();
+    ShowStateLabels();
+}
+
+void TesmorForm::TendLb_Click() {
+    OpenEntryBox(tendLb_, tendText_);
+}
+
+void TesmorForm::Ganmalb_Click() {
+    OpenEntryBox(ganmalb_, ganmaText_);
+}
+
+// The box takes the label's place, filled with its value; the commands wait
+// until the value is entered.
+void TesmorForm::OpenEntryBox(QLabel* label, QLineEdit* box) {
+    box->setText(label->text());
+    label->hide();
+    box->show();
+    box->selectAll();
+    box->setFocus();
+    buttonsFrame_->hide();
+}
+
+void TesmorForm::CloseEntryBox(QLabel* label, QLineEdit* box) {
+    box->hide();
+    label->show();
+    if (tendText_->isHidden() && ganmaText_->isHidden()) buttonsFrame_->show();
+    ShowStateLabels();
+}
+
+// A text that is not a number greater than 0 leaves the box open.
+void TesmorForm::TendText_Enter() {
+    if (driver_.SetTend(tendText_->text().toStdString())) CloseEntryBox(tendLb_, tendText_);
+}
+
+void TesmorForm::GanmaText_Enter() {
+    if (driver_.SetGanma(ganmaText_->text().toStdString())) CloseEntryBox(ganmalb_, ganmaText_);
+}
+
+void TesmorForm::HaningCheck_Click() {
+    driver_.SetHaning(haningCheck_->isChecked());
+}
+
+// Clicks on the parameter labels, Enter in the N list, and the readout
+// leaving the plot.
+bool TesmorForm::eventFilter(QObject* watched, QEvent* event) {
+    const QEvent::Type type = event->type();
+    if (type == QEvent::MouseButtonRelease &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+        if (watched == wordNumberLb_) WordNumberLb_Click();
+        if (watched == tendLb_) TendLb_Click();
+        if (watched == ganmalb_) Ganmalb_Click();
+    } else if (type == QEvent::KeyPress && watched == wrdList_) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            if (QListWidgetItem* item = wrdList_->currentItem()) WrdList_Click(item);
+            wrdList_->hide();
+            return true;
+        }
+    } else if (type == QEvent::FocusOut && watched == wrdList_) {
+        wrdList_->hide();
+    } else if (type == QEvent::Leave && watched == scrn_) {
+        floatLb_->hide();
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+// The t and y under the cursor, in PosX, PosY and the floating label, which
+// follows the cursor and stays inside the plot.
+void TesmorForm::Scrn_MouseMove(QMouseEvent* event) {
+    const QPointF at = event->position();
+    const Conditions c = driver_.GetConditions();
+    const double t = ReadoutTime(scrn_->view(), scrn_->xAxis->pixelToCoord(at.x()), c.T, c.N);
+    const double y = scrn_->yAxis->pixelToCoord(at.y());
+    posX_->setText(QString::fromStdString(ReadoutText("t= ", t)));
+    posY_->setText(QString::fromStdString(ReadoutText("y= ", y)));
+    floatLb_->setText(posX_->text() + QLatin1Char('\n') + posY_->text());
+    floatLb_->adjustSize();
+    QPoint place = at.toPoint() + QPoint(14, 14);
+    if (place.x() + floatLb_->width() > scrn_->width()) place.rx() -= floatLb_->width() + 28;
+    if (place.y() + floatLb_->height() > scrn_->height()) place.ry() -= floatLb_->height() + 28;
+    floatLb_->move(place);
+    floatLb_->show();
+    floatLb_->raise();
+}
+
+void TesmorForm::Scrn_MouseUp(QMouseEvent* event) {
+    if (event->button() != Qt::RightButton) return;
+    QClipboard* clipboard = QApplication::clipboard();
+    clipboard->clear();
+    clipboard->setText(floatLb_->text());
+}
+
+}  // namespace lapdesk

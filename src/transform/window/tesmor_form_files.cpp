@@ -1,0 +1,94 @@
+// The transform window's files: reading data through the import wizard,
+// saving data and result with the overwrite question, and the calculator's
+// program files.
+#include <QFileInfo>
+
+#include "calculator/frm_cpl_cal.h"
+#include "calculator/program_files.h"
+#include "importer/read_file_wisard.h"
+#include "transform/ldt_file.h"
+#include "transform/window/tesmor_form.h"
+
+namespace lapdesk {
+
+namespace {
+
+const QString kReadFailed = QStringLiteral("データ読込み失敗");
+// Written so: this failure text differs from the "データ書込み失敗" of other
+// windows.
+const QString kWriteFailed = QStringLiteral("データ書きみ失敗");
+
+// Data files end in .Ldt unless the user named another suffix.
+QString WithDataSuffix(const QString& path) {
+    return QFileInfo(path).suffix().isEmpty() ? path + QStringLiteral(".Ldt") : path;
+}
+
+}  // namespace
+
+QString TesmorForm::ChooseDataFile(FileDialogKind kind, const QString& title) {
+    return dialogs_->ChooseFile(this, kind, title, fileName_,
+                                DialogFilter(QString::fromLatin1(kFileFilter)));
+}
+
+// The file, then the wizard's answers (parameter line, first data line,
+// first column, delimiter), then the read, which transforms at once.
+void TesmorForm::ReadLapData() {
+    SetStatus(QString());
+    const QString path =
+        ChooseDataFile(FileDialogKind::Open, QStringLiteral("データファイルを開く"));
+    if (path.isEmpty()) {
+        SetStatus(kReadFailed);
+        return;
+    }
+    fileName_ = path;
+    WisardLabels& answers = wisard_->labels();
+    answers.FileNameLb = path;
+    answers.MaxColumnLb = 5;
+    if (!wisard_->ShowModal()) {
+        SetStatus(kReadFailed);
+        return;
+    }
+    const ImportAnswers where{answers.SpecialLb, answers.TopRowLb, answers.TopColumnLb,
+                              answers.DelmLb.toStdString()};
+    const Outcome read = lapdesk::ReadLapData(driver_, path.toStdString(), where);
+    if (read.ok) {
+        ShowNewResult();
+    } else {
+        ShowFailure(read.reason);
+    }
+}
+
+// Saves the samples, the result and, for data made by the program, the
+// program; an existing file is replaced only when the user says OK.
+void TesmorForm::WriteTransformFile() {
+    SetStatus(QString());
+    QString path = ChooseDataFile(FileDialogKind::Save, QStringLiteral("データファイルを保存"));
+    if (!path.isEmpty()) path = WithDataSuffix(path);
+    if (!path.isEmpty() && QFileInfo::exists(path) &&
+        dialogs_->Ask(this, QStringLiteral("ファイルは既に有ります"),
+                      QStringLiteral("同名のファイルが有ります上書きしますか"),
+                      QMessageBox::Ok | QMessageBox::Cancel) != QMessageBox::Ok) {
+        path.clear();
+    }
+    if (path.isEmpty()) {
+        SetStatus(kWriteFailed);
+        return;
+    }
+    fileName_ = path;
+    const Outcome written = lapdesk::WriteTransformFile(driver_, path.toStdString(),
+                                                        calculator_->interpreter().ProgramText());
+    if (!written.ok) ShowFailure(written.reason);
+}
+
+// ProgramReadAndRun: the calculator reads the program file into its editor.
+void TesmorForm::MenueProgramRead_Click() {
+    OpenCalculator();
+    calculator_->MenueReadProgram_Click();
+}
+
+// ProgRamWriteWhichUsed: the calculator saves the program it holds.
+void TesmorForm::MenueProgramWrite_Click() {
+    calculator_->MenueWriteProgram_Click();
+}
+
+}  // namespace lapdesk

@@ -1,0 +1,293 @@
+// The import wizard driven by object name: each showing is answered by a
+// script that runs once the dialog is up, as a person would answer it.
+#include "importer/read_file_wisard.h"
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QStringList>
+#include <QTest>
+#include <functional>
+#include <string>
+
+#include "temp_folder.h"
+
+namespace lapdesk {
+namespace {
+
+using testing_support::TempFolder;
+using testing_support::WriteBytes;
+
+class WisardTest : public ::testing::Test {
+  protected:
+    template <typename T>
+    T* Find(const char* name) {
+        T* found = wisard.findChild<T*>(QString::fromLatin1(name));
+        EXPECT_NE(found, nullptr) << "no control named " << name;
+        return found;
+    }
+    QListWidget* List(const char* name) { return Find<QListWidget>(name); }
+
+    QStringList Rows(const char* name) {
+        QStringList rows;
+        QListWidget* list = List(name);
+        for (int k = 0; k < list->count(); ++k)
+            rows << list->item(k)->text();
+        return rows;
+    }
+    QString Selected(const char* name) {
+        const QList<QListWidgetItem*> chosen = List(name)->selectedItems();
+        return chosen.isEmpty() ? QString() : chosen.front()->text();
+    }
+
+    // A file of the given lines; its name goes into FileNameLb.
+    void UseFile(const std::string& text) {
+        WriteBytes(folder / "table.txt", text);
+        wisard.labels().FileNameLb = QString::fromStdString((folder / "table.txt").string());
+    }
+
+    // Shows the wizard; the answer runs once it is up and must close it.
+    bool Show(const std::function<void()>& answer) {
+        answered = false;
+        QMetaObject::Connection once;
+        once = QObject::connect(
+            &wisard, &ReadFileWisard::activated, &wisard,
+            [this, answer, &once] {
+                QObject::disconnect(once);
+                answered = true;
+                answer();
+                if (wisard.isVisible()) {
+                    ADD_FAILURE() << "the answer left the wizard open";
+                    wisard.ButtonCalcel_Click();
+                }
+            },
+            Qt::QueuedConnection);
+        const bool accepted = wisard.ShowModal();
+        QObject::disconnect(once);
+        return accepted;
+    }
+
+    void ClickRow(const char* name, int row) {
+        QListWidget* list = List(name);
+        list->scrollToItem(list->item(row));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                          list->visualItemRect(list->item(row)).center());
+    }
+    void ClickOk() { QTest::mouseClick(Find<QPushButton>("ButtonOk"), Qt::LeftButton); }
+    void ClickCancel() { QTest::mouseClick(Find<QPushButton>("ButtonCalcel"), Qt::LeftButton); }
+
+    TempFolder folder;
+    ReadFileWisard wisard;
+    bool answered = false;
+};
+
+TEST_F(WisardTest, PreviewsTheFileAndOffersLinesAndColumns) {
+    UseFile("Word Number,  Tend ,  Ganma\r\n    128    ,  5.000E+00 ,   5.0\r\n1,2\r\n");
+    QStringList preview, lines, parameterLines, columns;
+    EXPECT_TRUE(Show([&] {
+        preview = Rows("SampleList");
+        lines = Rows("TopRow");
+        parameterLines = Rows("SpecialRow");
+        columns = Rows("TopColumn");
+        ClickOk();
+    }));
+    EXPECT_EQ(preview, (QStringList{"001|Word Number,  Tend ,  Ganma",
+                                    "002|    128    ,  5.000E+00 ,   5.0", "003|1,2"}));
+    EXPECT_EQ(lines, (QStringList{"1", "2", "3"}));
+    EXPECT_EQ(parameterLines, lines);
+    EXPECT_EQ(columns, (QStringList{"1", "2", "3", "4", "5"}));
+    EXPECT_EQ(Rows("SampleList"), QStringList()) << "closing clears the preview";
+}
+
+TEST_F(WisardTest, ReadsCp932Files) {
+    UseFile("\x83\x66\x81\x5b\x83\x5e\r\n");  // "データ" in cp932
+    QStringList preview;
+    Show([&] {
+        preview = Rows("SampleList");
+        ClickCancel();
+    });
+    EXPECT_EQ(preview, QStringList{QStringLiteral("001|データ")});
+}
+
+TEST_F(WisardTest, ShowsOnlyTheFirst200LinesOfALongFile) {
+    std::string text;
+    for (int n = 1; n <= 300; ++n)
+        text += std::to_string(n) + ",0\r\n";
+    UseFile(text);
+    QStringList preview, lines;
+    Show([&] {
+        preview = Rows("SampleList");
+        lines = Rows("TopRow");
+        ClickCancel();
+    });
+    ASSERT_EQ(preview.size(), 200);
+    EXPECT_EQ(preview.back(), QStringLiteral("200|200,0"));
+    ASSERT_EQ(lines.size(), 200);
+    EXPECT_EQ(lines.back(), QStringLiteral("200"));
+}
+
+TEST_F(WisardTest, SelectsTheKeptAnswersAndKeepsNewOnes) {
+    std::string text;
+    for (int n = 1; n <= 20; ++n)
+        text += "0,0\r\n";
+    UseFile(text);
+    QStringList selected;
+    EXPECT_TRUE(Show([&] {
+        selected = {Selected("SpecialRow"), Selected("TopRow"), Selected("TopColumn"),
+                    Find<QComboBox>("DelimiterList")->currentText()};
+        ClickRow("SpecialRow", 0);
+        ClickRow("TopRow", 9);
+        ClickRow("TopColumn", 2);
+        Find<QComboBox>("DelimiterList")->setCurrentIndex(2);
+        emit Find<QComboBox>("DelimiterList")->activated(2);
+        ClickOk();
+    }));
+    EXPECT_EQ(selected, (QStringList{"2", "4", "1", ","})) << "the answers that read a saved file";
+    const WisardLabels& labels = wisard.labels();
+    EXPECT_EQ(labels.SpecialLb, 1);
+    EXPECT_EQ(labels.TopRowLb, 10);
+    EXPECT_EQ(labels.TopColumnLb, 3);
+    EXPECT_EQ(labels.DelmLb, QStringLiteral(";"));
+
+    Show([&] {
+        selected = {Selected("SpecialRow"), Selected("TopRow"), Selected("TopColumn"),
+                    Find<QComboBox>("DelimiterList")->currentText()};
+        ClickCancel();
+    });
+    EXPECT_EQ(selected, (QStringList{"1", "10", "3", ";"})) << "kept from the last use";
+}
+
+TEST_F(WisardTest, MarksTheChosenLinesInThePreview) {
+    std::string text;
+    for (int n = 1; n <= 12; ++n)
+        text += "0,0\r\n";
+    UseFile(text);
+    auto marks = [this] {
+        QStringList marked;
+        QListWidget* preview = List("SampleList");
+        for (int row = 0; row < preview->count(); ++row) {
+            const QBrush brush = preview->item(row)->background();
+            if (brush.style() != Qt::NoBrush) marked << QString::number(row + 1);
+        }
+        return marked;
+    };
+    QStringList atStart, afterChoice;
+    QColor parameterColour, dataColour;
+    Show([&] {
+        atStart = marks();
+        parameterColour = List("SampleList")->item(1)->background().color();
+        dataColour = List("SampleList")->item(3)->background().color();
+        ClickRow("TopRow", 9);
+        afterChoice = marks();
+        ClickCancel();
+    });
+    EXPECT_EQ(atStart, (QStringList{"2", "4"}));
+    EXPECT_NE(parameterColour, dataColour);
+    EXPECT_EQ(afterChoice, (QStringList{"2", "10"}));
+}
+
+TEST_F(WisardTest, OffersTheDelimitersInOrder) {
+    QComboBox* delimiters = Find<QComboBox>("DelimiterList");
+    QStringList items;
+    for (int k = 0; k < delimiters->count(); ++k)
+        items << delimiters->itemText(k);
+    EXPECT_EQ(items, (QStringList{" ", ",", ";", "="}));
+}
+
+TEST_F(WisardTest, AnEmptyFileGivesEmptyListsAndKeepsTheAnswers) {
+    UseFile("");
+    QStringList lines, columns;
+    EXPECT_TRUE(Show([&] {
+        lines = Rows("TopRow");
+        columns = Rows("TopColumn");
+        ClickOk();
+    }));
+    EXPECT_TRUE(lines.isEmpty());
+    EXPECT_EQ(columns.size(), 5);
+    EXPECT_EQ(wisard.labels().TopRowLb, 4);
+    EXPECT_EQ(wisard.labels().SpecialLb, 2);
+}
+
+TEST_F(WisardTest, FocusAloneChangesNoAnswer) {
+    UseFile("a\r\nb\r\n");  // the kept first data line 4 is not offered
+    Show([&] {
+        List("TopRow")->setFocus();
+        QTest::keyClick(List("TopRow"), Qt::Key_Tab);
+        ClickCancel();
+    });
+    EXPECT_EQ(wisard.labels().TopRowLb, 4);
+}
+
+TEST_F(WisardTest, CancelEscAndCloseLeaveTheFlagReset) {
+    UseFile("1,2\r\n");
+    EXPECT_TRUE(Show([&] { ClickOk(); }));
+    EXPECT_TRUE(wisard.labels().OkFlagLb);
+    const struct {
+        const char* how;
+        std::function<void()> close;
+    } rows[] = {
+        {"Cancel", [&] { ClickCancel(); }},
+        {"Esc", [&] { QTest::keyClick(&wisard, Qt::Key_Escape); }},
+        {"close box", [&] { wisard.close(); }},
+    };
+    for (const auto& row : rows) {
+        EXPECT_FALSE(Show(row.close)) << row.how;
+        EXPECT_FALSE(wisard.labels().OkFlagLb) << row.how;
+    }
+}
+
+TEST_F(WisardTest, AFileThatCannotBeReadClosesAtOnce) {
+    UseFile("1,2\r\n");
+    EXPECT_TRUE(Show([&] { ClickOk(); }));
+    wisard.labels().FileNameLb = QString::fromStdString((folder / "missing.txt").string());
+    EXPECT_FALSE(Show([] {}));
+    EXPECT_FALSE(answered) << "the dialog never showed";
+    EXPECT_FALSE(wisard.labels().OkFlagLb);
+}
+
+TEST_F(WisardTest, EnterConfirmsATypedDelimiterWithoutClosing) {
+    UseFile("1:2\r\n");
+    bool openAfterEnter = false;
+    EXPECT_TRUE(Show([&] {
+        // Keys go to the focused control of the active window.
+        wisard.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&wisard));
+        QLineEdit* typed = Find<QComboBox>("DelimiterList")->lineEdit();
+        typed->setFocus();
+        typed->clear();
+        QTest::keyClicks(typed, QStringLiteral(":"));
+        QTest::keyClick(typed, Qt::Key_Return);
+        openAfterEnter = wisard.isVisible();
+        List("TopRow")->setFocus();
+        QTest::keyClick(List("TopRow"), Qt::Key_Return);
+    }));
+    EXPECT_TRUE(openAfterEnter);
+    EXPECT_EQ(wisard.labels().DelmLb, QStringLiteral(":"));
+}
+
+TEST_F(WisardTest, OffersChannelsOnlyWhenAsked) {
+    UseFile("1,2\r\n");
+    bool shownByDefault = true;
+    Show([&] {
+        shownByDefault = List("ChnoList")->isVisible();
+        ClickCancel();
+    });
+    EXPECT_FALSE(shownByDefault);
+
+    wisard.ShowChannelList(true);
+    wisard.labels().MaxColumnLb = 3;
+    QStringList channels;
+    Show([&] {
+        channels = Rows("ChnoList");
+        ClickRow("ChnoList", 2);
+        ClickOk();
+    });
+    EXPECT_EQ(channels, (QStringList{"1", "2", "3"}));
+    EXPECT_EQ(wisard.labels().ChnoLb, 3);
+}
+
+}  // namespace
+}  // namespace lapdesk

@@ -1,0 +1,103 @@
+// Parameter entry: the list of N and the T and gamma0 boxes, which take only
+// numbers greater than 0.
+#include <QAbstractButton>
+#include <QListWidget>
+
+#include "form_fixture.h"
+
+namespace lapdesk::testing {
+namespace {
+
+using EntryTest = FormTest;
+
+TEST_F(EntryTest, TheListOfNSetsNAndMarksTheDataInvalid) {
+    RunProgram(QStringLiteral("Return 1/(p+1)\nEnd"));
+    ASSERT_EQ(Text("ResultLb"), QStringLiteral("OK"));
+    QTest::mouseClick(Find<QLabel>("WordNumberLb"), Qt::LeftButton);
+    auto* list = Find<QListWidget>("WrdList");
+    ASSERT_TRUE(list->isVisible());
+    EXPECT_TRUE(list->hasFocus());
+    EXPECT_EQ(list->currentItem()->text(), QStringLiteral("256")) << "opens on the present N";
+    QListWidgetItem* choice = list->findItems(QStringLiteral("512"), Qt::MatchExactly).front();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(choice).center());
+    EXPECT_FALSE(list->isVisible());
+    EXPECT_EQ(Text("WordNumberLb"), QStringLiteral("512"));
+    EXPECT_EQ(form->driver().GetConditions().N, 512);
+    EXPECT_EQ(Text("DataSourceLb"), QStringLiteral("Non"));
+    EXPECT_EQ(Text("ResultLb"), QStringLiteral("Non"));
+}
+
+TEST_F(EntryTest, EnterInTheListOfNTakesTheCurrentEntryAndHidesIt) {
+    QTest::mouseClick(Find<QLabel>("WordNumberLb"), Qt::LeftButton);
+    auto* list = Find<QListWidget>("WrdList");
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_FALSE(list->isVisible());
+    EXPECT_EQ(Text("WordNumberLb"), QStringLiteral("512"));
+}
+
+struct Entry {
+    const char* label;
+    const char* box;
+};
+const Entry kEntries[] = {{"TendLb", "TendText"}, {"Ganmalb", "GanmaText"}};
+
+TEST_F(EntryTest, TheBoxesRejectNonNumbersAndValuesNotAboveZero) {
+    for (const Entry& entry : kEntries) {
+        QTest::mouseClick(Find<QLabel>(entry.label), Qt::LeftButton);
+        auto* box = Find<QLineEdit>(entry.box);
+        ASSERT_TRUE(box->isVisible()) << entry.box;
+        EXPECT_EQ(box->text(), QStringLiteral("5")) << "opens with the present value";
+        EXPECT_FALSE(Find<QWidget>("ButtonsFrame")->isVisible());
+        for (const char* text : {"abc", "", "0", "-2", "0.0", "1e", "5x", "2+3j"}) {
+            box->setText(QString::fromLatin1(text));
+            QTest::keyClick(box, Qt::Key_Return);
+            EXPECT_TRUE(box->isVisible()) << entry.box << " took \"" << text << "\"";
+            EXPECT_EQ(Text(entry.label), QStringLiteral("5")) << entry.box << " \"" << text << "\"";
+            EXPECT_FALSE(Find<QWidget>("ButtonsFrame")->isVisible());
+        }
+        box->setText(QStringLiteral("2.5e0"));
+        QTest::keyClick(box, Qt::Key_Return);
+        EXPECT_FALSE(box->isVisible()) << entry.box;
+        EXPECT_EQ(Text(entry.label), QStringLiteral("2.5")) << entry.box;
+        EXPECT_TRUE(Find<QWidget>("ButtonsFrame")->isVisible());
+    }
+    const Conditions c = form->driver().GetConditions();
+    EXPECT_EQ(c.T, 2.5);
+    EXPECT_EQ(c.Gamma0, 2.5);
+}
+
+TEST_F(EntryTest, TheCommandsWaitUntilBothBoxesAreClosed) {
+    for (const Entry& entry : kEntries) {
+        QTest::mouseClick(Find<QLabel>(entry.label), Qt::LeftButton);
+    }
+    QTest::keyClick(Find<QLineEdit>("TendText"), Qt::Key_Return);
+    EXPECT_FALSE(Find<QWidget>("TendText")->isVisible());
+    EXPECT_FALSE(Find<QWidget>("ButtonsFrame")->isVisible()) << "gamma0 is still being typed";
+    QTest::keyClick(Find<QLineEdit>("GanmaText"), Qt::Key_Return);
+    EXPECT_TRUE(Find<QWidget>("ButtonsFrame")->isVisible());
+}
+
+TEST_F(EntryTest, UnchangedValuesKeepTheData) {
+    RunProgram(QStringLiteral("Return 1/(p+1)\nEnd"));
+    QTest::mouseClick(Find<QLabel>("TendLb"), Qt::LeftButton);
+    QTest::keyClick(Find<QLineEdit>("TendText"), Qt::Key_Return);
+    EXPECT_EQ(Text("DataSourceLb"), QStringLiteral("Math"));
+    EXPECT_EQ(Text("ResultLb"), QStringLiteral("OK"));
+}
+
+TEST_F(EntryTest, TheHanningSwitchReachesTheTransform) {
+    auto* check = Find<QAbstractButton>("HaningCheck");
+    const QPoint box(8, check->height() / 2);
+    QTest::mouseClick(check, Qt::LeftButton, {}, box);
+    EXPECT_FALSE(form->driver().HaningOn());
+    RunProgram(QStringLiteral("Return 1\nEnd"));
+    EXPECT_NE(form->driver().Store()[kSampleRe].Values[128], 0.0) << "no taper at k = N/2";
+    QTest::mouseClick(check, Qt::LeftButton, {}, box);
+    EXPECT_TRUE(form->driver().HaningOn());
+    RunProgram(QStringLiteral("Return 1\nEnd"));
+    EXPECT_EQ(form->driver().Store()[kSampleRe].Values[128], 0.0);
+}
+
+}  // namespace
+}  // namespace lapdesk::testing

@@ -1,0 +1,129 @@
+// The window's files: saving with the overwrite question, reading through
+// the wizard and its failures, and the calculator's program files.
+#include <QFile>
+#include <QPlainTextEdit>
+
+#include "form_fixture.h"
+
+namespace lapdesk::testing {
+namespace {
+
+using testing_support::ReadBytes;
+using testing_support::WriteBytes;
+
+using FilesTest = FormTest;
+
+const QString kFirstOrder = QStringLiteral("Return 1/(p+1)\nEnd");
+
+TEST_F(FilesTest, NoFileNameMeansNothingIsSaved) {
+    RunProgram(kFirstOrder);
+    script->files.clear();
+    Click("ButtonResultWrite");
+    EXPECT_EQ(statuses.back(), QStringLiteral("データ書きみ失敗"));
+    EXPECT_TRUE(script->questions.isEmpty());
+}
+
+TEST_F(FilesTest, AnExistingFileIsReplacedOnlyAfterOk) {
+    RunProgram(kFirstOrder);
+    WriteBytes(folder / "old.Ldt", "keep me");
+    const QString path = PathOf("old.Ldt");
+    const struct {
+        QMessageBox::StandardButton answer;
+        const char* status;
+        bool replaced;
+    } rows[] = {
+        {QMessageBox::Cancel, "データ書きみ失敗", false},
+        {QMessageBox::Ok, "データ書込み成功", true},
+    };
+    for (const auto& row : rows) {
+        script->files = {path};
+        script->answers = {row.answer};
+        script->questions.clear();
+        Click("Command3");  // "File Out" of the result frame
+        EXPECT_EQ(script->questions,
+                  QStringList{QStringLiteral(
+                      "ファイルは既に有ります: 同名のファイルが有ります上書きしますか")});
+        EXPECT_EQ(statuses.back(), QString::fromUtf8(row.status));
+        EXPECT_EQ(ReadBytes(folder / "old.Ldt") != "keep me", row.replaced);
+    }
+}
+
+TEST_F(FilesTest, SavedDataCarryTheProgramAndADataSuffix) {
+    RunProgram(kFirstOrder);
+    script->files = {PathOf("named")};
+    Action("MenueWriteResult")->trigger();
+    EXPECT_EQ(statuses.back(), QStringLiteral("データ書込み成功"));
+    const std::string bytes = ReadBytes(folder / "named.Ldt");
+    EXPECT_EQ(bytes.rfind("Word Number,  Tend      ,  Ganma \r\n", 0), 0u);
+    // The title "変換関数作成プログラムリスト" in cp932, then the program.
+    EXPECT_NE(bytes.find("\x95\xcf\x8a\xb7\x8a\xd6\x90\x94\x8d\xec\x90\xac"
+                         "\x83\x76\x83\x8d\x83\x4f\x83\x89\x83\x80\x83\x8a\x83\x58\x83\x67\r\n"
+                         "Return 1/(p+1)\r\nEnd\r\n"),
+              std::string::npos);
+}
+
+TEST_F(FilesTest, DataReadFromAFileAreSavedWithoutAProgram) {
+    RunProgram(kFirstOrder);
+    script->files = {PathOf("made.Ldt")};
+    Click("ButtonResultWrite");
+    script->files = {PathOf("made.Ldt")};
+    const WisardAnswers answers;
+    AnswerWisard(&answers);
+    Click("ButtonDataRead");
+    ASSERT_EQ(Text("DataSourceLb"), QStringLiteral("File"));
+    script->files = {PathOf("again.Ldt")};
+    Click("ButtonResultWrite");
+    const std::string again = ReadBytes(folder / "again.Ldt");
+    EXPECT_EQ(again.find("Return"), std::string::npos);
+    EXPECT_EQ(std::count(again.begin(), again.end(), '\n'), 256 + 3);
+}
+
+TEST_F(FilesTest, NoFileNameOrACancelledWizardReadsNothing) {
+    RunProgram(kFirstOrder);
+    const std::vector<double> before(form->driver().Store()[kResult].Values);
+    script->files.clear();
+    Click("ButtonDataRead");
+    EXPECT_EQ(statuses.back(), QStringLiteral("データ読込み失敗"));
+    EXPECT_EQ(wisardShowings, 0);
+
+    WriteBytes(folder / "other.Ldt", "Word Number\r\n 128, 5, 5\r\n");
+    script->files = {PathOf("other.Ldt")};
+    AnswerWisard(nullptr);
+    Action("MenueReadLapData")->trigger();
+    EXPECT_EQ(wisardShowings, 1);
+    EXPECT_EQ(form->wisard().labels().FileNameLb, PathOf("other.Ldt"));
+    EXPECT_EQ(form->wisard().labels().MaxColumnLb, 5);
+    EXPECT_EQ(statuses.back(), QStringLiteral("データ読込み失敗"));
+    EXPECT_EQ(Text("DataSourceLb"), QStringLiteral("Math")) << "nothing changed";
+    EXPECT_EQ(Text("WordNumberLb"), QStringLiteral("256"));
+    EXPECT_EQ(form->driver().Store()[kResult].Values, before);
+}
+
+TEST_F(FilesTest, AFileThatDoesNotFitTheAnswersReadsNothing) {
+    WriteBytes(folder / "short.Ldt", "Word Number\r\n    128    ,5,5\r\n1,2\r\n");
+    script->files = {PathOf("short.Ldt")};
+    const WisardAnswers answers;
+    AnswerWisard(&answers);
+    Click("ButtonDataRead");
+    EXPECT_EQ(statuses.back(), QStringLiteral("データ読込み失敗"));
+    EXPECT_TRUE(Find<QLabel>("StatusBar")->toolTip().contains(QStringLiteral("lines")))
+        << "the reason is at hand";
+    EXPECT_EQ(Text("DataSourceLb"), QStringLiteral("Non"));
+}
+
+TEST_F(FilesTest, TheCalculatorsProgramIsReadAndSaved) {
+    WriteBytes(folder / "ramp.Prg", "' ramp\r\nReturn 1/p^2\r\nEnd\r\n");
+    script->files = {PathOf("ramp.Prg")};
+    Action("MenueProgramRead")->trigger();
+    auto* editor = Calculator().findChild<QPlainTextEdit*>(QStringLiteral("ProgramText"));
+    EXPECT_EQ(editor->toPlainText(), QStringLiteral("' ramp\nReturn 1/p^2\nEnd"));
+    EXPECT_TRUE(Calculator().isVisible());
+
+    editor->setPlainText(kFirstOrder);
+    script->files = {PathOf("saved.Prg")};
+    Action("MenueProgramWrite")->trigger();
+    EXPECT_EQ(ReadBytes(folder / "saved.Prg"), "Return 1/(p+1)\r\nEnd\r\n");
+}
+
+}  // namespace
+}  // namespace lapdesk::testing

@@ -1,0 +1,142 @@
+#include "form_fixture.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+namespace lapdesk::testing {
+
+QMessageBox::StandardButton ScriptedDialogs::Ask(QWidget*, const QString& title,
+                                                 const QString& text,
+                                                 QMessageBox::StandardButtons buttons) {
+    script_->questions << title + QStringLiteral(": ") + text;
+    if (script_->answers.empty()) {
+        ADD_FAILURE() << "unexpected question: " << text.toStdString();
+        return QMessageBox::Cancel;
+    }
+    const QMessageBox::StandardButton answer = script_->answers.front();
+    script_->answers.pop_front();
+    EXPECT_TRUE(buttons.testFlag(answer)) << "the question offers no such button";
+    return answer;
+}
+
+QString ScriptedDialogs::ChooseFile(QWidget*, FileDialogKind, const QString& title, const QString&,
+                                    const QString& filter) {
+    script_->dialogTitles << title;
+    EXPECT_EQ(filter, QStringLiteral("Program(*.Prg);;Data(*.Ldt);;Text(*.Txt);;All(*.*)"));
+    if (script_->files.empty()) return QString();
+    const QString file = script_->files.front();
+    script_->files.pop_front();
+    return file;
+}
+
+void FormTest::SetUp() {
+    form = std::make_unique<TesmorForm>(std::make_unique<ScriptedDialogs>(script),
+                                        std::make_unique<ScriptedDialogs>(script));
+    QObject::connect(form.get(), &TesmorForm::statusChanged, form.get(),
+                     [this](const QString& text) { statuses << text; });
+    FrmCplCal* calculator = &form->calculator();
+    QObject::connect(
+        calculator, &FrmCplCal::messageShown, calculator,
+        [this, calculator](const QString& message) {
+            messages << message;
+            QTest::mouseDClick(calculator->findChild<QLabel*>(QStringLiteral("MessageBox")),
+                               Qt::LeftButton);
+        },
+        Qt::QueuedConnection);
+    ReadFileWisard* wisard = &form->wisard();
+    QObject::connect(
+        wisard, &ReadFileWisard::activated, wisard,
+        [this, wisard] {
+            ++wisardShowings;
+            const std::function<void()> answer = std::move(wisardAnswer_);
+            wisardAnswer_ = nullptr;
+            if (answer) answer();
+            if (wisard->isVisible()) {
+                ADD_FAILURE() << "the wizard showed without an answer";
+                wisard->ButtonCalcel_Click();
+            }
+        },
+        Qt::QueuedConnection);
+    form->show();
+    form->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    QObject::connect(&modalWatch_, &QTimer::timeout, [this] {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (modal == nullptr || modal == &form->wisard()) return;
+        ADD_FAILURE() << "unexpected modal dialog: " << modal->windowTitle().toStdString();
+        modal->close();
+    });
+    modalWatch_.start(50);
+}
+
+void FormTest::TearDown() {
+    modalWatch_.stop();
+    form.reset();
+}
+
+void FormTest::Click(const char* button) {
+    // A person clicks only after the window has laid itself out.
+    QApplication::processEvents();
+    QTest::mouseClick(Find<QPushButton>(button), Qt::LeftButton);
+}
+
+void FormTest::TypeProgram(const QString& text) {
+    Calculator().findChild<QRadioButton*>(QStringLiteral("OptionProgram"))->click();
+    auto* editor = Calculator().findChild<QPlainTextEdit*>(QStringLiteral("ProgramText"));
+    editor->clear();
+    editor->setFocus();
+    for (const QString& line : text.split(QLatin1Char('\n'))) {
+        QTest::keyClicks(editor, line);
+        QTest::keyClick(editor, Qt::Key_Return);
+    }
+}
+
+void FormTest::SetProgram(const QString& text) {
+    Calculator().findChild<QRadioButton*>(QStringLiteral("OptionProgram"))->click();
+    Calculator().findChild<QPlainTextEdit*>(QStringLiteral("ProgramText"))->setPlainText(text);
+}
+
+void FormTest::RunProgram(const QString& text) {
+    SetProgram(text);
+    Click("Command2");
+    // The windows take their turns at the front.
+    QApplication::processEvents();
+}
+
+void FormTest::AnswerWisard(const WisardAnswers* answers) {
+    if (answers == nullptr) {
+        wisardAnswer_ = [this] {
+            QTest::mouseClick(
+                form->wisard().findChild<QPushButton*>(QStringLiteral("ButtonCalcel")),
+                Qt::LeftButton);
+        };
+        return;
+    }
+    const WisardAnswers chosen = *answers;
+    wisardAnswer_ = [this, chosen] {
+        ReadFileWisard& wisard = form->wisard();
+        auto choose = [&wisard](const char* name, int number) {
+            auto* list = wisard.findChild<QListWidget*>(QString::fromLatin1(name));
+            QListWidgetItem* item = list->item(number - 1);
+            list->scrollToItem(item);
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                              list->visualItemRect(item).center());
+        };
+        choose("SpecialRow", chosen.parameterLine);
+        choose("TopRow", chosen.firstDataLine);
+        choose("TopColumn", chosen.firstColumn);
+        auto* delimiters = wisard.findChild<QComboBox*>(QStringLiteral("DelimiterList"));
+        const int index = delimiters->findText(chosen.delimiter);
+        delimiters->setCurrentIndex(index);
+        emit delimiters->activated(index);
+        QTest::mouseClick(wisard.findChild<QPushButton*>(QStringLiteral("ButtonOk")),
+                          Qt::LeftButton);
+    };
+}
+
+}  // namespace lapdesk::testing

@@ -1,0 +1,153 @@
+// The plot box in the window: what the buttons draw, Esc stopping a drawing,
+// the cursor readout and its copy, and the result frame over the plot.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QClipboard>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QWheelEvent>
+
+#include "form_fixture.h"
+
+namespace lapdesk::testing {
+namespace {
+
+using PlotTest = FormTest;
+
+TEST_F(PlotTest, TheButtonsDrawDataAndResultAndClearTheBox) {
+    RunProgram(QStringLiteral("Return 1/(p+1)\nEnd"));
+    EXPECT_EQ(Scrn()->view(), PlotView::Result) << "a transform draws its result";
+    EXPECT_EQ(Text("NowDispLb"), QStringLiteral("Res"));
+    Click("ButtonDrawLapData");
+    EXPECT_EQ(Scrn()->view(), PlotView::Data);
+    EXPECT_EQ(Scrn()->DrawnPoints(), 512);
+    EXPECT_EQ(Text("NowDispLb"), QStringLiteral("Data"));
+    Click("ButtonClearScreen");
+    EXPECT_EQ(Scrn()->DrawnPoints(), 0);
+    EXPECT_EQ(Text("NowDispLb"), QString());
+    Click("ButtonDrawResult");
+    EXPECT_EQ(Scrn()->view(), PlotView::Result);
+    EXPECT_EQ(Scrn()->DrawnPoints(), 256);
+    EXPECT_DOUBLE_EQ(Scrn()->xAxis->range().upper, 5.0);
+    const SampleSeries& result = form->driver().Store()[kResult];
+    EXPECT_GT(Scrn()->yAxis->range().upper, result.MaxValue) << "scaled by the kept extremes";
+    EXPECT_LT(Scrn()->yAxis->range().upper, 1.1 * result.MaxValue + 1e-9);
+}
+
+TEST_F(PlotTest, EscStopsADrawingInProgress) {
+    QTest::mouseClick(Find<QLabel>("WordNumberLb"), Qt::LeftButton);
+    auto* list = Find<QListWidget>("WrdList");
+    QListWidgetItem* n4096 = list->findItems(QStringLiteral("4096"), Qt::MatchExactly).front();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(n4096).center());
+    QApplication::processEvents();
+    // Esc arrives while the drawing lets events run for the first time.
+    QMetaObject::invokeMethod(
+        form.get(), [this] { QTest::keyClick(form.get(), Qt::Key_Escape); }, Qt::QueuedConnection);
+    QTest::mouseClick(Find<QPushButton>("ButtonDrawLapData"), Qt::LeftButton);
+    EXPECT_EQ(Text("NowDispLb"), QString());
+    EXPECT_GT(Scrn()->DrawnPoints(), 0);
+    EXPECT_LT(Scrn()->DrawnPoints(), 2 * 4096);
+}
+
+TEST_F(PlotTest, TheReadoutFollowsTheCursorAndIsCopiedOnRightClick) {
+    RunProgram(QStringLiteral("Return 1/(p+1)\nEnd"));
+    Find<QWidget>("Frame3")->hide();
+    ScrnPlot* scrn = Scrn();
+    const QPoint at(scrn->xAxis->coordToPixel(1.25), scrn->yAxis->coordToPixel(0.5));
+    QTest::mouseMove(scrn, at);
+    const QString t = QString::fromStdString(ReadoutText("t= ", scrn->xAxis->pixelToCoord(at.x())));
+    const QString y = QString::fromStdString(ReadoutText("y= ", scrn->yAxis->pixelToCoord(at.y())));
+    EXPECT_TRUE(t.startsWith(QStringLiteral("t= 1.2"))) << t.toStdString();
+    EXPECT_EQ(Text("PosX"), t);
+    EXPECT_EQ(Text("PosY"), y);
+    auto* floating = Find<QLabel>("FloatLb");
+    EXPECT_TRUE(floating->isVisible());
+    EXPECT_EQ(floating->text(), t + QStringLiteral("\n") + y);
+    EXPECT_TRUE(scrn->rect().contains(floating->geometry())) << "kept inside the plot";
+
+    QApplication::clipboard()->setText(QStringLiteral("old"));
+    QTest::mouseClick(scrn, Qt::RightButton, {}, at);
+    EXPECT_EQ(QApplication::clipboard()->text(), floating->text());
+}
+
+TEST_F(PlotTest, TheReadoutOfDataConvertsTheIndexIntoTime) {
+    RunProgram(QStringLiteral("Return 1/(p+1)\nEnd"));
+    Find<QWidget>("Frame3")->hide();
+    Click("ButtonDrawLapData");
+    ScrnPlot* scrn = Scrn();
+    const QPoint at(scrn->xAxis->coordToPixel(128.0), scrn->yAxis->coordToPixel(0.0));
+    QTest::mouseMove(scrn, at);
+    const double k = scrn->xAxis->pixelToCoord(at.x());
+    EXPECT_EQ(Text("PosX"), QString::fromStdString(ReadoutText("t= ", k * 5.0 / 256)));
+}
+
+TEST_F(PlotTest, TheFloatingReadoutStaysInsideNearTheEdge) {
+    ScrnPlot* scrn = Scrn();
+    const QPoint corner(scrn->width() - 2, scrn->height() - 2);
+    QTest::mouseMove(scrn, corner);
+    EXPECT_TRUE(scrn->rect().contains(Find<QLabel>("FloatLb")->geometry()));
+}
+
+TEST_F(PlotTest, TheWheelZoomsAndDraggingPans) {
+    ScrnPlot* scrn = Scrn();
+    const QPoint centre = scrn->axisRect()->rect().center();
+    const double width = scrn->xAxis->range().size();
+    QWheelEvent wheel(QPointF(centre), QPointF(scrn->mapToGlobal(centre)), QPoint(), QPoint(0, 120),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(scrn, &wheel);
+    EXPECT_LT(scrn->xAxis->range().size(), width) << "zoomed in";
+
+    const double lower = scrn->xAxis->range().lower;
+    QTest::mousePress(scrn, Qt::LeftButton, {}, centre);
+    QMouseEvent drag(QEvent::MouseMove, QPointF(centre - QPoint(100, 0)),
+                     QPointF(scrn->mapToGlobal(centre - QPoint(100, 0))), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(scrn, &drag);
+    QTest::mouseRelease(scrn, Qt::LeftButton, {}, centre - QPoint(100, 0));
+    EXPECT_GT(scrn->xAxis->range().lower, lower) << "dragged to the left shows later t";
+}
+
+TEST_F(PlotTest, TheResultFrameShowsTheTableAndHides) {
+    RunProgram(QStringLiteral("Return 1/(p+1)\nEnd"));
+    auto* frame = Find<QWidget>("Frame3");
+    auto* text = Find<QPlainTextEdit>("Text1");
+    ASSERT_TRUE(frame->isVisible()) << "a transform shows its table";
+    EXPECT_TRUE(text->isReadOnly());
+    const QStringList lines = text->toPlainText().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    ASSERT_EQ(lines.size(), 256 + 3);
+    EXPECT_EQ(lines[0], QStringLiteral("Word Number,  Tend      ,  Ganma "));
+    EXPECT_TRUE(Scrn()->rect().contains(frame->geometry()));
+
+    QTest::mouseClick(Find<QAbstractButton>("Check1"), Qt::LeftButton);
+    EXPECT_FALSE(text->isReadOnly());
+    QTest::mouseClick(Find<QAbstractButton>("Check1"), Qt::LeftButton);
+    EXPECT_TRUE(text->isReadOnly());
+
+    Click("Command1");
+    EXPECT_FALSE(frame->isVisible());
+    Action("MenueResultMemo")->trigger();
+    EXPECT_TRUE(frame->isVisible());
+    Click("ButtonCallPfunction");
+    EXPECT_FALSE(frame->isVisible()) << "opening the calculator hides the table";
+    EXPECT_TRUE(Calculator().isVisible());
+}
+
+TEST_F(PlotTest, TheResultFrameIsDraggedWithTheLeftButton) {
+    Action("MenueResultMemo")->trigger();
+    auto* frame = Find<QWidget>("Frame3");
+    const QPoint start = frame->pos();
+    const QPoint grab(frame->width() / 2, 6);  // on the title
+    QTest::mousePress(frame, Qt::LeftButton, {}, grab);
+    QMouseEvent drag(QEvent::MouseMove, QPointF(grab - QPoint(40, -30)),
+                     frame->mapToGlobal(QPointF(grab - QPoint(40, -30))), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(frame, &drag);
+    QTest::mouseRelease(frame, Qt::LeftButton, {}, grab - QPoint(40, -30));
+    EXPECT_EQ(frame->pos(), start + QPoint(-40, 30));
+    EXPECT_TRUE(Scrn()->rect().contains(frame->geometry()));
+}
+
+}  // namespace
+}  // namespace lapdesk::testing

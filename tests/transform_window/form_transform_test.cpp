@@ -1,0 +1,154 @@
+// Making the data with the calculator's program and transforming it: the
+// whole path from a typed program to a saved and re-read result, a failing
+// program, a stop request, and the transform command on present data.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <cmath>
+
+#include "form_fixture.h"
+
+namespace lapdesk::testing {
+namespace {
+
+using TransformTest = FormTest;
+
+const QString kFirstOrder = QStringLiteral("Return 1/(p+1)\nEnd");
+
+std::vector<double> ResultValues(const TesmorForm& form) {
+    const auto& values = form.driver().Store()[kResult].Values;
+    return {values.begin(), values.begin() + form.driver().GetConditions().N};
+}
+
+TEST_F(TransformTest, TypedProgramToPlotTableFileAndBack) {
+    TypeProgram(QStringLiteral("' F(p) = 1/(p+1)\nReturn 1/(p+1)\nEnd"));
+    Click("Command2");
+    ASSERT_EQ(Text("ResultLb"), QStringLiteral("OK"));
+    EXPECT_EQ(Text("DataSourceLb"), QStringLiteral("Math"));
+    EXPECT_EQ(Text("CosinTableLb"), QStringLiteral("256"));
+    EXPECT_TRUE(messages.isEmpty()) << messages.join(QStringLiteral(" | ")).toStdString();
+    const QStringList expectedOrder{
+        QStringLiteral("データ作成中"), QStringLiteral("データ作成成功"),
+        QStringLiteral("逆変換終了"),
+        QStringLiteral("結果のテキストデータ作成中 もう一寸待ってね！！")};
+    qsizetype at = 0;
+    for (const QString& status : expectedOrder) {
+        at = statuses.indexOf(status, at);
+        EXPECT_GE(at, 0) << status.toStdString() << " in "
+                         << statuses.join(QStringLiteral(" | ")).toStdString();
+    }
+    EXPECT_EQ(statuses.back(), QString());
+    QApplication::processEvents();
+    EXPECT_TRUE(form->isActiveWindow()) << "the transform window comes to the front";
+
+    // f(t) = e^-t over the first 80 % of the record, away from the jump at 0.
+    const std::vector<double> made = ResultValues(*form);
+    for (int k = 8; k < 205; ++k) {
+        EXPECT_NEAR(made[k], std::exp(-k * 5.0 / 256), 0.01) << "t = " << k * 5.0 / 256;
+    }
+    EXPECT_EQ(Scrn()->view(), PlotView::Result);
+    EXPECT_EQ(Scrn()->DrawnPoints(), 256);
+    EXPECT_TRUE(Find<QWidget>("Frame3")->isVisible());
+
+    const QString path = PathOf("first-order.Ldt");
+    script->files = {path};
+    Click("ButtonResultWrite");
+    EXPECT_EQ(statuses.back(), QStringLiteral("データ書込み成功"));
+    EXPECT_EQ(script->dialogTitles.back(), QStringLiteral("データファイルを保存"));
+
+    Click("ButtonClearScreen");
+    EXPECT_EQ(Scrn()->DrawnPoints(), 0);
+
+    script->files = {path};
+    const WisardAnswers answers;  // ",", 2, 4, 1
+    AnswerWisard(&answers);
+    Click("ButtonDataRead");
+    EXPECT_EQ(wisardShowings, 1);
+    EXPECT_EQ(script->dialogTitles.back(), QStringLiteral("データファイルを開く"));
+    EXPECT_TRUE(SawStatus(QStringLiteral("データ読込み成功")));
+    EXPECT_EQ(Text("DataSourceLb"), QStringLiteral("File"));
+    EXPECT_EQ(Text("ResultLb"), QStringLiteral("OK"));
+    EXPECT_EQ(Text("WordNumberLb"), QStringLiteral("256"));
+    EXPECT_EQ(Text("TendLb"), QStringLiteral("5"));
+    EXPECT_EQ(Text("Ganmalb"), QStringLiteral("5"));
+    const std::vector<double> read = ResultValues(*form);
+    ASSERT_EQ(read.size(), made.size());
+    for (std::size_t k = 0; k < made.size(); ++k) {
+        EXPECT_NEAR(read[k], made[k], 1e-6) << k;  // the file keeps 8 digits
+    }
+    EXPECT_EQ(Scrn()->view(), PlotView::Result);
+    EXPECT_EQ(Scrn()->DrawnPoints(), 256);
+}
+
+TEST_F(TransformTest, AFailingProgramLeavesNoData) {
+    // Fails from k = 10 on.
+    RunProgram(QStringLiteral(
+        "If Image(p) > 10*2*π/5 - 0.1 Then\nReturn 1/0\nEnd If\nReturn 1/(p+1)\nEnd"));
+    EXPECT_TRUE(SawStatus(QStringLiteral("数値計算実行時エラー")));
+    EXPECT_FALSE(SawStatus(QStringLiteral("データ作成成功")));
+    EXPECT_EQ(messages.size(), 1) << "the calculator shows the error";
+    EXPECT_EQ(Text("DataSourceLb"), QStringLiteral("Non"));
+    EXPECT_EQ(Text("ResultLb"), QStringLiteral("Non"));
+    EXPECT_FALSE(Find<QPushButton>("ButtonExeTesmor")->isEnabled());
+    EXPECT_TRUE(Find<QWidget>("ButtonsFrame")->isEnabled()) << "the commands are back";
+    EXPECT_TRUE(Action("MenueMathematRun")->isEnabled());
+    EXPECT_NE(form->driver().Store()[kSampleRe].Values[9], 0.0) << "what was made is kept";
+}
+
+TEST_F(TransformTest, AStopRequestEndsTheDataCreationAndIsThenForgotten) {
+    // The calculator's stop button is pressed as soon as the loop lets
+    // events run.
+    auto pressStop = [this] {
+        QTest::mouseClick(Calculator().findChild<QPushButton*>(QStringLiteral("ButtonStop")),
+                          Qt::LeftButton);
+    };
+    const QMetaObject::Connection stopper = QObject::connect(
+        form.get(), &TesmorForm::statusChanged, form.get(), [this, pressStop](const QString& s) {
+            if (s == QStringLiteral("データ作成中")) {
+                QMetaObject::invokeMethod(&Calculator(), pressStop, Qt::QueuedConnection);
+            }
+        });
+    RunProgram(kFirstOrder);
+    EXPECT_TRUE(SawStatus(QStringLiteral("プログラム実行中断")));
+    EXPECT_FALSE(SawStatus(QStringLiteral("データ作成成功")));
+    EXPECT_EQ(Text("DataSourceLb"), QStringLiteral("Non"));
+    EXPECT_EQ(Text("ResultLb"), QStringLiteral("Non"));
+    EXPECT_TRUE(messages.isEmpty()) << "a stop is not an error";
+
+    QObject::disconnect(stopper);
+    Click("Command2");
+    EXPECT_EQ(Text("ResultLb"), QStringLiteral("OK")) << "the old stop request is gone";
+}
+
+TEST_F(TransformTest, TheTransformCommandRepeatsTheSameResult) {
+    RunProgram(kFirstOrder);
+    const std::vector<double> first = ResultValues(*form);
+    statuses.clear();
+    Click("ButtonExeTesmor");
+    EXPECT_EQ(ResultValues(*form), first);
+    EXPECT_EQ(Text("CosinTableLb"), QStringLiteral("256"));
+    EXPECT_EQ(statuses.front(), QStringLiteral("逆ラプラス変換中"));
+    EXPECT_EQ(Scrn()->view(), PlotView::Result);
+}
+
+TEST_F(TransformTest, TheMenuAndTheCalculatorsOwnButtonMakeTheDataToo) {
+    SetProgram(kFirstOrder);
+    Action("MenueMathematRun")->trigger();
+    EXPECT_EQ(Text("ResultLb"), QStringLiteral("OK"));
+    EXPECT_TRUE(Calculator().isVisible());
+
+    QTest::mouseClick(Find<QLabel>("TendLb"), Qt::LeftButton);
+    Find<QLineEdit>("TendText")->setText(QStringLiteral("10"));
+    QTest::keyClick(Find<QLineEdit>("TendText"), Qt::Key_Return);
+    ASSERT_EQ(Text("ResultLb"), QStringLiteral("Non"));
+    QTest::mouseClick(
+        Calculator().findChild<QPushButton*>(QStringLiteral("ButtonExeProgToMakeTesmorData")),
+        Qt::LeftButton);
+    EXPECT_EQ(Text("ResultLb"), QStringLiteral("OK"));
+    EXPECT_DOUBLE_EQ(Scrn()->xAxis->range().upper, 10.0);
+    EXPECT_NEAR(form->driver().Store()[kResult].Values[64], std::exp(-64 * 10.0 / 256), 0.01);
+}
+
+}  // namespace
+}  // namespace lapdesk::testing
