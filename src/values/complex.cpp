@@ -6,24 +6,6 @@
 
 namespace lapdesk {
 
-Complex CplAdd(const Complex& a, const Complex& b) {
-    return {Checked(a.Re + b.Re), Checked(a.Im + b.Im)};
-}
-
-Complex CplSub(const Complex& a, const Complex& b) {
-    return {Checked(a.Re - b.Re), Checked(a.Im - b.Im)};
-}
-
-// Each product is rounded on its own (no fused multiply-add), so results are
-// the same on every machine.
-Complex CplMul(const Complex& a, const Complex& b) {
-    const double rr = Checked(a.Re * b.Re);
-    const double ii = Checked(a.Im * b.Im);
-    const double ir = Checked(a.Im * b.Re);
-    const double ri = Checked(b.Im * a.Re);
-    return {Checked(rr - ii), Checked(ir + ri)};
-}
-
 Complex CplDiv(const Complex& a, const Complex& b) {
     const double d = Checked(Checked(b.Re * b.Re) + Checked(b.Im * b.Im));
     if (d == 0.0) RaiseFault(FaultCode::DivisionByZero);
