@@ -5,30 +5,6 @@
 
 namespace lapdesk::testing {
 
-QMessageBox::StandardButton ScriptedDialogs::Ask(QWidget*, const QString&, const QString& text,
-                                                 QMessageBox::StandardButtons buttons) {
-    script_->questions << text;
-    if (script_->answers.empty()) {
-        ADD_FAILURE() << "unexpected question: " << text.toStdString();
-        return QMessageBox::Cancel;
-    }
-    const QMessageBox::StandardButton answer = script_->answers.front();
-    script_->answers.pop_front();
-    EXPECT_TRUE(buttons.testFlag(answer)) << "the question offers no such button";
-    return answer;
-}
-
-QString ScriptedDialogs::ChooseFile(QWidget*, FileDialogKind, const QString& title,
-                                    const QString& initialPath, const QString& filter) {
-    script_->dialogTitles << title;
-    script_->initialPaths << initialPath;
-    EXPECT_EQ(filter, QStringLiteral("Program(*.Prg);;Data(*.Ldt);;Text(*.Txt);;All(*.*)"));
-    if (script_->files.empty()) return QString();
-    const QString file = script_->files.front();
-    script_->files.pop_front();
-    return file;
-}
-
 void WindowTest::SetUp() {
     window = std::make_unique<FrmCplCal>(std::make_unique<ScriptedDialogs>(script));
     QObject::connect(

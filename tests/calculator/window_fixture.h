@@ -19,38 +19,10 @@
 #include <memory>
 #include <ostream>
 
-#include "calculator/calculator_dialogs.h"
 #include "calculator/frm_cpl_cal.h"
-
-// Readable failure messages for Qt strings.
-inline void PrintTo(const QString& text, std::ostream* os) {
-    *os << '"' << text.toStdString() << '"';
-}
-inline void PrintTo(const QStringList& list, std::ostream* os) {
-    *os << '[' << list.join(QStringLiteral(" | ")).toStdString() << ']';
-}
+#include "scripted_dialogs.h"
 
 namespace lapdesk::testing {
-
-struct Script {
-    std::deque<QMessageBox::StandardButton> answers;
-    QStringList questions;
-    std::deque<QString> files;
-    QStringList dialogTitles;
-    QStringList initialPaths;
-};
-
-class ScriptedDialogs : public CalculatorDialogs {
-  public:
-    explicit ScriptedDialogs(std::shared_ptr<Script> script) : script_(std::move(script)) {}
-    QMessageBox::StandardButton Ask(QWidget* parent, const QString& title, const QString& text,
-                                    QMessageBox::StandardButtons buttons) override;
-    QString ChooseFile(QWidget* parent, FileDialogKind kind, const QString& title,
-                       const QString& initialPath, const QString& filter) override;
-
-  private:
-    std::shared_ptr<Script> script_;
-};
 
 class WindowTest : public ::testing::Test {
   protected:

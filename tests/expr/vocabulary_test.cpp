@@ -47,42 +47,28 @@ TEST(VocabularyTables, OperatorHelpListsTheSynonymsInQuotes) {
     EXPECT_EQ(help(".GE."), ".GE.,\"=>\"");
 }
 
-TEST(VocabularyTables, KeywordsAndMenuTexts) {
-    const Vocabulary& v = GetVocabulary();
-    EXPECT_EQ(
-        Column(v.keywords, &StatementKeyword::word),
-        (std::vector<std::string>{"Global",      "Dim",          "Call",         "For",
-                                  "Exit For",    "ExitFor",      "Next",         "Do",
-                                  "ExitDo",      "Exit Do",      "Loop",         "While",
-                                  "Until",       "If",           "ElseIf",       "Else If",
-                                  "Else",        "EndIf",        "End If",       "Select",
-                                  "CaseElse",    "Case Else",    "Case",         "EndSelect",
-                                  "End Select",  "Function",     "ExitFunction", "Exit Function",
-                                  "EndFunction", "End Function", "Return",       "End"}));
-    EXPECT_EQ(v.keywordMenu, (std::vector<std::string>{"Global ",
-                                                       "Dim ",
-                                                       "Call ",
-                                                       "For ",
-                                                       "ExitFor , Exit For",
-                                                       "Next",
-                                                       "Do",
-                                                       "ExitDo , Exit Do",
-                                                       "Loop ",
-                                                       "While ",
-                                                       "Until ",
-                                                       "If  Then",
-                                                       "ElseIf  Then , Else If   Then",
-                                                       "Else",
-                                                       "EndIf , End If",
-                                                       "Select Case",
-                                                       "Case ",
-                                                       "CaseElse , Case Else",
-                                                       "EndSelect , End Select",
-                                                       "Function ",
-                                                       "ExitFunction , Exit Function",
-                                                       "EndFunction , End Function",
-                                                       "Return ",
-                                                       "End"}));
+// Classification takes the first keyword in table order, so a longer
+// keyword must come before every keyword that begins it ("End If" before
+// "End", "Case Else" before "Case").
+TEST(VocabularyTables, LongerKeywordsComeBeforeTheirPrefixes) {
+    const std::vector<StatementKeyword>& keywords = GetVocabulary().keywords;
+    ASSERT_EQ(keywords.size(), 32u);
+    for (std::size_t i = 0; i < keywords.size(); ++i) {
+        for (std::size_t j = i + 1; j < keywords.size(); ++j) {
+            EXPECT_FALSE(keywords[j].word.starts_with(keywords[i].word))
+                << keywords[j].word << " comes after its prefix " << keywords[i].word;
+        }
+    }
+}
+
+TEST(VocabularyTables, KeywordMenuTexts) {
+    const std::vector<std::string>& menu = GetVocabulary().keywordMenu;
+    ASSERT_EQ(menu.size(), 24u);
+    EXPECT_EQ(menu[11], "If  Then");
+    EXPECT_EQ(menu[12], "ElseIf  Then , Else If   Then");
+    EXPECT_EQ(menu[15], "Select Case");
+    EXPECT_EQ(menu[21], "EndFunction , End Function");
+    EXPECT_EQ(menu.back(), "End");
 }
 
 TEST(VocabularyTables, ConstantsAndTheirHelp) {

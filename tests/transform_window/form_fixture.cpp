@@ -10,31 +10,8 @@
 
 namespace lapdesk::testing {
 
-QMessageBox::StandardButton ScriptedDialogs::Ask(QWidget*, const QString& title,
-                                                 const QString& text,
-                                                 QMessageBox::StandardButtons buttons) {
-    script_->questions << title + QStringLiteral(": ") + text;
-    if (script_->answers.empty()) {
-        ADD_FAILURE() << "unexpected question: " << text.toStdString();
-        return QMessageBox::Cancel;
-    }
-    const QMessageBox::StandardButton answer = script_->answers.front();
-    script_->answers.pop_front();
-    EXPECT_TRUE(buttons.testFlag(answer)) << "the question offers no such button";
-    return answer;
-}
-
-QString ScriptedDialogs::ChooseFile(QWidget*, FileDialogKind, const QString& title, const QString&,
-                                    const QString& filter) {
-    script_->dialogTitles << title;
-    EXPECT_EQ(filter, QStringLiteral("Program(*.Prg);;Data(*.Ldt);;Text(*.Txt);;All(*.*)"));
-    if (script_->files.empty()) return QString();
-    const QString file = script_->files.front();
-    script_->files.pop_front();
-    return file;
-}
-
 void FormTest::SetUp() {
+    script->recordTitles = true;
     form = std::make_unique<TesmorForm>(std::make_unique<ScriptedDialogs>(script),
                                         std::make_unique<ScriptedDialogs>(script));
     QObject::connect(form.get(), &TesmorForm::statusChanged, form.get(),

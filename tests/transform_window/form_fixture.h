@@ -20,41 +20,14 @@
 #include <string>
 #include <vector>
 
-#include "calculator/calculator_dialogs.h"
 #include "calculator/frm_cpl_cal.h"
 #include "importer/read_file_wisard.h"
+#include "scripted_dialogs.h"
 #include "temp_folder.h"
 #include "transform/window/plot/scrn_plot.h"
 #include "transform/window/tesmor_form.h"
 
-// Readable failure messages for Qt strings.
-inline void PrintTo(const QString& text, std::ostream* os) {
-    *os << '"' << text.toStdString() << '"';
-}
-inline void PrintTo(const QStringList& list, std::ostream* os) {
-    *os << '[' << list.join(QStringLiteral(" | ")).toStdString() << ']';
-}
-
 namespace lapdesk::testing {
-
-struct Script {
-    std::deque<QMessageBox::StandardButton> answers;
-    QStringList questions;      // "title: text"
-    std::deque<QString> files;  // the names the file dialogs return, in order
-    QStringList dialogTitles;
-};
-
-class ScriptedDialogs : public CalculatorDialogs {
-  public:
-    explicit ScriptedDialogs(std::shared_ptr<Script> script) : script_(std::move(script)) {}
-    QMessageBox::StandardButton Ask(QWidget* parent, const QString& title, const QString& text,
-                                    QMessageBox::StandardButtons buttons) override;
-    QString ChooseFile(QWidget* parent, FileDialogKind kind, const QString& title,
-                       const QString& initialPath, const QString& filter) override;
-
-  private:
-    std::shared_ptr<Script> script_;
-};
 
 // The answers that read back a file the window saved.
 struct WisardAnswers {

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QImage>
 
+#include "first_order_driver.h"
 #include "temp_folder.h"
 #include "transform/window/plot/plot_image.h"
 #include "transform/window/plot/scrn_plot.h"
@@ -13,18 +14,6 @@ namespace lapdesk {
 namespace {
 
 using testing_support::TempFolder;
-
-TransformDriver FirstOrder(const char* n) {
-    TransformDriver driver;
-    EXPECT_TRUE(driver.SetWordNumber(n));
-    EXPECT_TRUE(driver
-                    .MakeData([](const Complex& s) {
-                        const double d = (s.Re + 1) * (s.Re + 1) + s.Im * s.Im;
-                        return Complex{(s.Re + 1) / d, -s.Im / d};
-                    })
-                    .ok);
-    return driver;
-}
 
 TEST(ScrnPlot, DrawsEveryPointOfEveryCurve) {
     const TransformDriver driver = FirstOrder("256");

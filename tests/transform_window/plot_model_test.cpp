@@ -1,5 +1,6 @@
 // What the plot shows, computed from the sample store without drawing.
 #include "transform/window/plot/plot_model.h"
+#include "first_order_driver.h"
 
 #include <gtest/gtest.h>
 
@@ -30,19 +31,6 @@ TEST(PlotModel, RangeHoldsTheExtremesAndZeroWithATenthMore) {
         EXPECT_NEAR(range.lower, row.lower, 1e-12) << row.name;
         EXPECT_NEAR(range.upper, row.upper, 1e-12) << row.name;
     }
-}
-
-// F(s) = 1/(s+1) with N = 128, T = 5, gamma0 = 5.
-TransformDriver FirstOrder() {
-    TransformDriver driver;
-    EXPECT_TRUE(driver.SetWordNumber("128"));
-    EXPECT_TRUE(driver
-                    .MakeData([](const Complex& s) {
-                        const double d = (s.Re + 1) * (s.Re + 1) + s.Im * s.Im;
-                        return Complex{(s.Re + 1) / d, -s.Im / d};
-                    })
-                    .ok);
-    return driver;
 }
 
 TEST(PlotModel, DataAreBothPartsAgainstTheirIndex) {
