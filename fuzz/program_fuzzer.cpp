@@ -17,7 +17,7 @@ class BoundedView : public lapdesk::RecordingView {
 
   private:
     void Count() {
-        if (++work_ >= 20000) stopRequested = true;
+        if (++work_ >= 4000) stopRequested = true;
     }
     int work_ = 0;
 };
