@@ -31,6 +31,7 @@ class ProgramFunction::GuardView : public InterpreterView {
         statements = 0;
     }
     bool OverBudget() const { return statements > budget_; }
+    std::int64_t budget() const { return budget_; }
 
     std::vector<std::string> messages;
     std::int64_t statements = 0;
@@ -62,6 +63,18 @@ class ProgramFunction::GuardView : public InterpreterView {
     std::int64_t budget_;
 };
 
+namespace {
+
+// p as a plain variable of the global page, if it is one.
+std::optional<Complex> CurrentP(Interpreter& session) {
+    ClsCode& globals = session.ImmediatePage();
+    const ClsCode::Found p = globals.AzIsVariableSearch("p");
+    if (p.kind != "M" || p.page != &globals || p.typ != 0) return std::nullopt;
+    return p.value;
+}
+
+}  // namespace
+
 bool SetLaplacePoint(Interpreter& session, const Complex& s) {
     ClsCode& globals = session.ImmediatePage();
     ClsCode::Found p = globals.AzIsVariableSearch("p");
@@ -80,12 +93,14 @@ bool SetLaplacePoint(Interpreter& session, const Complex& s) {
 ProgramFunction::ProgramFunction(Interpreter& session, std::int64_t statementBudget)
     : session_(session),
       userView_(session.view()),
-      guard_(std::make_unique<GuardView>(session.view(), statementBudget)) {
+      guard_(std::make_unique<GuardView>(session.view(), statementBudget)),
+      savedP_(CurrentP(session)) {
     session_.SetView(*guard_);
 }
 
 ProgramFunction::~ProgramFunction() {
     session_.SetView(userView_);
+    if (savedP_) SetLaplacePoint(session_, *savedP_);
 }
 
 FValue ProgramFunction::operator()(const Complex& s) {
@@ -99,7 +114,7 @@ FValue ProgramFunction::operator()(const Complex& s) {
     const bool ran = session_.RunProgram(re, im, false, true);
     if (userView_.StopRequested()) return FValue::Stop();
     if (guard_->OverBudget()) {
-        return FValue::Failure("プログラムが " + std::to_string(kStatementsPerPoint) +
+        return FValue::Failure("プログラムが " + std::to_string(guard_->budget()) +
                                " 文を超えても終わらない");
     }
     if (!ran) {

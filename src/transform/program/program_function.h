@@ -5,11 +5,13 @@
 // as the reason of a failed point instead of showing them (a node where the
 // program fails means "the method does not apply here", not a program error),
 // passes the user's stop request through, and stops a run that goes on past
-// a statement budget.
+// a statement budget. When it ends, p gets back the value it had, so the
+// calculator shows what the data loop left.
 #pragma once
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "interp/interpreter.h"
@@ -45,6 +47,7 @@ class ProgramFunction {
     Interpreter& session_;
     InterpreterView& userView_;
     std::unique_ptr<GuardView> guard_;
+    std::optional<Complex> savedP_;
     std::int64_t evaluations_ = 0;
 };
 
