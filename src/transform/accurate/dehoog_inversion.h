@@ -26,7 +26,7 @@ struct AccurateParameters {
     double tol = 1e-14;
     double alpha = 0.0;      // F is taken as analytic for Re s > alpha
     double bandRatio = 4.0;  // a band runs from t0 to bandRatio * t0
-    double target = 1e-10;   // estimate aimed at, relative to max |f|
+    double target = 1e-10;   // estimate aimed at, relative to max(max |f|, 1)
 };
 
 enum class PointState { Converged, NotConverged, NotApplicable };
