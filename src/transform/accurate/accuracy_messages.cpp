@@ -49,8 +49,7 @@ std::string NotApplicableMessage(const AccurateResult& result) {
 std::string NotConvergedMessage(const AccurateResult& result) {
     const long count = CountState(result, PointState::NotConverged);
     if (count == 0) return "";
-    return "高精度逆変換の " + std::to_string(count) +
-           " 点は誤差の見積りが目標に届きません (error 列を見てください)";
+    return "高精度逆変換の " + std::to_string(count) + " 点は誤差の見積りが目標に届きません";
 }
 
 }  // namespace lapdesk
