@@ -5,10 +5,12 @@
 #include <memory>
 #include <string>
 
+#include "accuracy_output.h"
 #include "commands.h"
 #include "console_view.h"
 #include "fileio/text_file.h"
 #include "interp/interpreter.h"
+#include "transform/program/program_function.h"
 #include "transform/program/program_sampling.h"
 #include "transform/transform_driver.h"
 #include "transform_output.h"
@@ -23,8 +25,23 @@ struct InvertOptions {
     std::string t = "5";
     std::string gamma0 = "5";
     bool noHanning = false;
+    std::string method = "fft";
+    bool error = false;
     TransformOutputOptions outputs;
 };
+
+// The accurate inversion's table to --csv or standard output.
+int WriteAccurateCsv(const AccurateResult& result, const InvertOptions& options) {
+    const std::string csv = AccurateCsv(result);
+    if (!options.outputs.csv) {
+        std::cout << csv;
+        return 0;
+    }
+    const WriteResult written = WriteBytesAtomic(*options.outputs.csv, csv);
+    if (written.ok) return 0;
+    std::cerr << "lapdesk-cli invert: " << written.reason << '\n';
+    return 1;
+}
 
 int RunInvert(const InvertOptions& options) {
     TransformDriver driver;
@@ -32,6 +49,12 @@ int RunInvert(const InvertOptions& options) {
         !driver.SetGanma(options.gamma0)) {
         std::cerr << "lapdesk-cli invert: N must be one of 128, 256, ..., 4096, and T and gamma0 "
                      "numbers greater than 0\n";
+        return 2;
+    }
+    const bool accurate = options.method == "dehoog";
+    if (accurate && options.outputs.output) {
+        std::cerr << "lapdesk-cli invert: -o は FFT のデータファイルを書きます。--method dehoog "
+                     "では --csv を使ってください\n";
         return 2;
     }
     driver.SetHaning(!options.noHanning);
@@ -45,7 +68,22 @@ int RunInvert(const InvertOptions& options) {
     Interpreter session(view);
     session.SetProgramText(program.text);
     if (!TesmorDataSet(driver, session)) return 1;
-    return WriteTransformOutputs(driver, program.text, options.outputs, "invert");
+    // The singularity check runs on every inversion; the band and the
+    // accurate inversion when asked for.
+    const AccuracyReport report = RunAccuracyChecksOnProgram(
+        driver, session, {options.error && !accurate, accurate, AccurateParameters{}});
+    PrintAccuracyWarnings(report, driver.GetConditions());
+    if (report.stopped) {
+        std::cerr << "プログラム実行中断\n";
+        return 1;
+    }
+    if (accurate) return WriteAccurateCsv(*report.accurate, options);
+    if (report.band && !report.band->ok) {
+        std::cerr << "lapdesk-cli invert: " << report.band->reason << '\n';
+        return 1;
+    }
+    return WriteTransformOutputs(driver, program.text, options.outputs, "invert",
+                                 report.band ? &report.band->band : nullptr);
 }
 
 }  // namespace
@@ -63,6 +101,14 @@ void AddInvertCommand(CLI::App& app, int& exitStatus) {
     invert->add_option("-g,--gamma0", options->gamma0, "Damping over one record, gamma*T")
         ->capture_default_str();
     invert->add_flag("--no-hanning", options->noHanning, "Do not taper the samples");
+    invert
+        ->add_option("--method", options->method,
+                     "fft: the damped FFT; dehoog: the accurate inversion, t,y,error as CSV "
+                     "for t = n*T/N, n = 1..N-1")
+        ->check(CLI::IsMember({"fft", "dehoog"}))
+        ->capture_default_str();
+    invert->add_flag("--error", options->error,
+                     "Add the FFT's error band to the CSV as a third column, error");
     options->outputs.AddTo(*invert);
     invert->callback([options, &exitStatus] { exitStatus = RunInvert(*options); });
 }

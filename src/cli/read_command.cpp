@@ -18,9 +18,18 @@ struct ReadOptions {
     std::string file;
     ImportAnswers answers;
     TransformOutputOptions outputs;
+    bool error = false;
 };
 
 int RunRead(const ReadOptions& options) {
+    if (options.error) {
+        // Without F only the comparison with N/2 points is possible, and on
+        // the Davies-Martin set it covers the true error at a quarter of the
+        // points: not a band to trust.
+        std::cerr << "lapdesk-cli read: --error はファイルのデータには使えません。誤差帯には F "
+                     "の値が要ります (invert --error を使ってください)\n";
+        return 2;
+    }
     TransformDriver driver;
     ReportStatusOnStderr(driver);
     const Outcome read = ReadLapData(driver, options.file, options.answers);
@@ -53,6 +62,7 @@ void AddReadCommand(CLI::App& app, int& exitStatus) {
                      "Text between the numbers of a line (empty: a space)")
         ->capture_default_str();
     options->outputs.AddTo(*read);
+    read->add_flag("--error", options->error, "Refused: file data has no F for the error band");
     read->callback([options, &exitStatus] { exitStatus = RunRead(*options); });
 }
 

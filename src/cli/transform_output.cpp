@@ -22,14 +22,15 @@ std::string SeventeenDigits(double x) {
     return std::string(buffer, result.ptr);
 }
 
-// t, y, re, im for k = 0..N-1 with 17 significant digits, LF line ends.
-std::string CsvTable(const TransformDriver& driver) {
+// t, y, [error,] re, im for k = 0..N-1 with 17 significant digits, LF line ends.
+std::string CsvTable(const TransformDriver& driver, const std::vector<double>* errorBand) {
     const Conditions c = driver.GetConditions();
     const SampleStore& store = driver.Store();
-    std::string text = "t,y,re,im\n";
+    std::string text = errorBand ? "t,y,error,re,im\n" : "t,y,re,im\n";
     for (int k = 0; k < c.N; ++k) {
         text += SeventeenDigits(c.TimeAt(k)) + "," + SeventeenDigits(store[kResult].Values[k]) +
-                "," + SeventeenDigits(store[kSampleRe].Values[k]) + "," +
+                "," + (errorBand ? SeventeenDigits((*errorBand)[k]) + "," : "") +
+                SeventeenDigits(store[kSampleRe].Values[k]) + "," +
                 SeventeenDigits(store[kSampleIm].Values[k]) + "\n";
     }
     return text;
@@ -69,7 +70,8 @@ void ReportStatusOnStderr(TransformDriver& driver) {
 }
 
 int WriteTransformOutputs(TransformDriver& driver, std::string_view programText,
-                          const TransformOutputOptions& options, std::string_view verb) {
+                          const TransformOutputOptions& options, std::string_view verb,
+                          const std::vector<double>* errorBand) {
     if (options.output) {
         const Outcome written = WriteTransformFile(driver, *options.output, programText);
         if (!written.ok) return Fail(verb, written.reason);
@@ -77,7 +79,7 @@ int WriteTransformOutputs(TransformDriver& driver, std::string_view programText,
         std::cout << WithLf(TransformFileText(driver, programText));
     }
     if (options.csv) {
-        const WriteResult written = WriteBytesAtomic(*options.csv, CsvTable(driver));
+        const WriteResult written = WriteBytesAtomic(*options.csv, CsvTable(driver, errorBand));
         if (!written.ok) return Fail(verb, written.reason);
     }
 #ifdef LAPDESK_CLI_PLOT

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace CLI {
 class App;
@@ -32,8 +33,9 @@ void ReportStatusOnStderr(TransformDriver& driver);
 
 // Writes the outputs; programText is listed after the result when the data
 // came from a program. Returns the exit status (0, or 1 with the reason on
-// standard error).
+// standard error). With an error band the CSV has it as its third column.
 int WriteTransformOutputs(TransformDriver& driver, std::string_view programText,
-                          const TransformOutputOptions& options, std::string_view verb);
+                          const TransformOutputOptions& options, std::string_view verb,
+                          const std::vector<double>* errorBand = nullptr);
 
 }  // namespace lapdesk::cli

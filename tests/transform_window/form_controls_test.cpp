@@ -91,6 +91,7 @@ TEST_F(ControlsTest, MenusCarryTheirItemsInOrder) {
          "ファイル",
          {{"MenueReadLapData", "計算済み逆変換用データ読込"},
           {"MenueWriteResult", "逆変換データ及び結果保存"},
+          {"MenueAccuracyCsv", "精度データCSV出力"},
           {"MenueLine01", ""},
           {"MenueResultMemo", "結果のテキストメモ表示"},
           {"MenueEnd", "終了"}}},

@@ -16,6 +16,7 @@
 #include "calculator/frm_cpl_cal.h"
 #include "transform/ldt_file.h"
 #include "transform/program/program_sampling.h"
+#include "transform/window/accuracy/accuracy_view.h"
 #include "transform/window/draggable_frame.h"
 #include "transform/window/plot/scrn_plot.h"
 
@@ -55,9 +56,13 @@ void TesmorForm::ASetLapOpValur() {
 bool TesmorForm::TesmorDataSet() {
     if (busy_) return false;
     SetBusy(true);
+    accuracy_->Forget();
     const bool made = lapdesk::TesmorDataSet(driver_, calculator_->interpreter());
     SetBusy(false);
-    if (made) ShowNewResult();
+    if (made) {
+        ShowNewResult();
+        RunAccuracy();
+    }
     ShowStateLabels();
     return made;
 }
@@ -190,7 +195,8 @@ void TesmorForm::DrawContent(std::string_view name, bool result) {
     ScrnPlot::DrawControl control;
     control.keepDrawing = [this, shown] { return nowDispLb_->text() == shown; };
     control.letEventsRun = [] { QCoreApplication::processEvents(); };
-    scrn_->Draw(result ? ResultContent(driver_) : DataContent(driver_), control);
+    const bool drawn = scrn_->Draw(result ? ResultContent(driver_) : DataContent(driver_), control);
+    if (drawn && result) accuracy_->Decorate(driver_);
 }
 
 void TesmorForm::NowDispLb_Stop() {

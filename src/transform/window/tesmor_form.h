@@ -29,6 +29,7 @@ class QPushButton;
 
 namespace lapdesk {
 
+class AccuracyView;
 class DraggableFrame;
 class FrmCplCal;
 class ReadFileWisard;
@@ -86,6 +87,9 @@ class TesmorForm : public QMainWindow, public TransformPartner {
     void Scrn_MouseMove(QMouseEvent* event);
     void Scrn_MouseUp(QMouseEvent* event);
 
+    // The accuracy features (tesmor_form_accuracy.cpp).
+    void MenueAccuracyCsv_Click();
+
   signals:
     // Every status text, in order.
     void statusChanged(const QString& text);
@@ -122,6 +126,11 @@ class TesmorForm : public QMainWindow, public TransformPartner {
 
     // Files (tesmor_form_files.cpp).
     QString ChooseDataFile(FileDialogKind kind, const QString& title);
+
+    // The accuracy features (tesmor_form_accuracy.cpp).
+    QWidget* BuildAccuracyPanel();
+    void AddAccuracyMenuItem(QMenu* file);
+    void RunAccuracy();
 
     TransformDriver driver_;
     std::unique_ptr<CalculatorDialogs> dialogs_;
@@ -166,6 +175,7 @@ class TesmorForm : public QMainWindow, public TransformPartner {
     QAction* menueWriteResult_ = nullptr;
     // Menu items that wait while the program makes the data.
     std::vector<QAction*> busyActions_;
+    AccuracyView* accuracy_ = nullptr;
 };
 
 }  // namespace lapdesk

@@ -210,6 +210,7 @@ QWidget* TesmorForm::BuildSidePanel() {
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(BuildLegend());
     layout->addWidget(BuildConditionsFrame());
+    layout->addWidget(BuildAccuracyPanel());
     layout->addWidget(BuildButtonsFrame());
     layout->addStretch();
     return panel;
@@ -362,6 +363,7 @@ void TesmorForm::BuildMenus() {
     menueWriteResult_ =
         MakeAction(file, "MenueWriteResult", QStringLiteral("逆変換データ及び結果保存"));
     connect(menueWriteResult_, &QAction::triggered, this, &TesmorForm::WriteTransformFile);
+    AddAccuracyMenuItem(file);
     file->addSeparator()->setObjectName(QStringLiteral("MenueLine01"));
     QAction* memo = MakeAction(file, "MenueResultMemo", QStringLiteral("結果のテキストメモ表示"));
     connect(memo, &QAction::triggered, this, &TesmorForm::MenueResultMemo_Click);

@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QMouseEvent>
 
+#include "transform/window/accuracy/accuracy_view.h"
 #include "transform/window/plot/scrn_plot.h"
 #include "transform/window/tesmor_form.h"
 
@@ -105,6 +106,7 @@ void TesmorForm::Scrn_MouseMove(QMouseEvent* event) {
     const double y = scrn_->yAxis->pixelToCoord(at.y());
     posX_->setText(QString::fromStdString(ReadoutText("t= ", t)));
     posY_->setText(QString::fromStdString(ReadoutText("y= ", y)));
+    accuracy_->ShowReadout(driver_, t);
     floatLb_->setText(posX_->text() + QLatin1Char('\n') + posY_->text());
     floatLb_->adjustSize();
     QPoint place = at.toPoint() + QPoint(14, 14);

@@ -7,6 +7,7 @@
 #include "calculator/program_files.h"
 #include "importer/read_file_wisard.h"
 #include "transform/ldt_file.h"
+#include "transform/window/accuracy/accuracy_view.h"
 #include "transform/window/tesmor_form.h"
 
 namespace lapdesk {
@@ -50,6 +51,7 @@ void TesmorForm::ReadLapData() {
     }
     const ImportAnswers where{answers.SpecialLb, answers.TopRowLb, answers.TopColumnLb,
                               answers.DelmLb.toStdString()};
+    accuracy_->Forget();  // file data have no F to check
     const Outcome read = lapdesk::ReadLapData(driver_, path.toStdString(), where);
     if (read.ok) {
         ShowNewResult();

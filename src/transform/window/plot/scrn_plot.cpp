@@ -48,7 +48,7 @@ ScrnPlot::ScrnPlot(QWidget* parent) : QCustomPlot(parent) {
 
 void ScrnPlot::ClearScreen(double tEnd) {
     ++generation_;
-    clearGraphs();
+    clearPlottables();  // also the layers others add over a result
     clearItems();
     view_ = PlotView::None;
     SetAxes(EmptyContent(tEnd));

@@ -1,0 +1,99 @@
+#include "transform/accurate/fft_error_band.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <string>
+
+#include "transform/accurate/point_text.h"
+#include "values/number_text.h"
+
+namespace lapdesk {
+
+namespace {
+
+// One more run of the damped FFT with other N or gamma0. Values of F come
+// from `known` where it has them, otherwise from f.
+class ExtraRun {
+  public:
+    ExtraRun(const TransformDriver& base, int n, double gamma0) {
+        driver_.SetWordNumber(std::to_string(n));
+        driver_.SetTend(base.TendLb());
+        driver_.SetGanma(DoubleToText(gamma0));
+        driver_.SetHaning(base.HaningOn());
+    }
+
+    bool Run(const LaplaceFunction& f, const LineValues& known, FftErrorBand& out) {
+        driver_.BeginDataCreation();
+        const int nPos = driver_.GetConditions().NPos;
+        for (int k = 0; k <= nPos; ++k) {
+            const Complex s = driver_.SamplePoint(k);
+            Complex value;
+            if (k < static_cast<int>(known.size()) && known[k]) {
+                value = *known[k];
+            } else {
+                ++out.evaluations;
+                const FValue v = f(s);
+                if (v.stopped) {
+                    out.stopped = true;
+                    out.reason = "中断";
+                    return false;
+                }
+                if (!v.ok) return Fail(out, "s = " + PointText(s) + " で " + v.reason);
+                value = v.value;
+            }
+            const Outcome stored = driver_.StoreSample(k, value);
+            if (!stored.ok) return Fail(out, "s = " + PointText(s) + " で値が大きすぎる");
+        }
+        const Outcome inverted = driver_.FinishDataCreation();
+        if (!inverted.ok) return Fail(out, inverted.reason);
+        return true;
+    }
+
+    double Y(int k) const { return driver_.Store()[kResult].Values[k]; }
+
+  private:
+    static bool Fail(FftErrorBand& out, const std::string& why) {
+        out.reason = "誤差帯の計算: " + why;
+        return false;
+    }
+
+    TransformDriver driver_;
+};
+
+constexpr int kLargestN = 4096;
+
+}  // namespace
+
+FftErrorBand EstimateFftError(const TransformDriver& result, const LaplaceFunction& f,
+                              const LineValues& line) {
+    FftErrorBand out;
+    const Conditions c = result.GetConditions();
+    const std::vector<double>& y = result.Store()[kResult].Values;
+
+    ExtraRun damped(result, c.N, c.Gamma0 + std::log(10.0));
+    if (!damped.Run(f, {}, out)) return out;
+
+    out.halvedPoints = c.N >= kLargestN;
+    ExtraRun points(result, out.halvedPoints ? c.N / 2 : 2 * c.N, c.Gamma0);
+    if (!points.Run(f, line, out)) return out;
+
+    // |y(N) - y(other N)| at the result point n.
+    const auto pointTerm = [&](int n) {
+        if (!out.halvedPoints) return std::abs(y[n] - points.Y(2 * n));
+        // An odd point has no N/2 partner: its even neighbours stand for it.
+        if (n % 2 == 0) return std::abs(y[n] - points.Y(n / 2));
+        double term = std::abs(y[n - 1] - points.Y(n / 2));
+        if (n + 1 < c.N) term = std::max(term, std::abs(y[n + 1] - points.Y(n / 2 + 1)));
+        return term;
+    };
+    out.band.resize(static_cast<std::size_t>(c.N));
+    for (int n = 0; n < c.N; ++n) {
+        const double dampingTerm = std::abs(y[n] - damped.Y(n)) / 0.9;
+        out.band[n] = 1.5 * (dampingTerm + 4.0 / 3.0 * pointTerm(n));
+    }
+    out.ok = true;
+    return out;
+}
+
+}  // namespace lapdesk

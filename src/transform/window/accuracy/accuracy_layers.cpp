@@ -1,0 +1,32 @@
+#include "transform/window/accuracy/accuracy_layers.h"
+
+namespace lapdesk {
+
+AccuracyLayers MakeAccuracyLayers(const TransformDriver& fft, const AccuracyReport& report) {
+    AccuracyLayers layers;
+    const Conditions c = fft.GetConditions();
+    const std::vector<double>& y = fft.Store()[kResult].Values;
+    layers.unreliableStart = {0.0, kUnreliableFirstSteps * c.DeltaT()};
+    layers.unreliableEnd = {0.8 * c.T, c.T};
+    if (report.band && report.band->ok) {
+        const std::vector<double>& band = report.band->band;
+        for (int k = 0; k < c.N; ++k) {
+            layers.bandOutline.x.push_back(c.TimeAt(k));
+            layers.bandOutline.y.push_back(y[k] + band[k]);
+        }
+        for (int k = c.N - 1; k >= 0; --k) {
+            layers.bandOutline.x.push_back(c.TimeAt(k));
+            layers.bandOutline.y.push_back(y[k] - band[k]);
+        }
+    }
+    if (report.accurate) {
+        for (const AccuratePoint& p : report.accurate->points) {
+            if (p.state == PointState::NotApplicable) continue;
+            layers.accurate.x.push_back(p.t);
+            layers.accurate.y.push_back(p.value);
+        }
+    }
+    return layers;
+}
+
+}  // namespace lapdesk

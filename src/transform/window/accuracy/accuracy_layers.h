@@ -1,0 +1,25 @@
+// What the plot adds over the FFT's result when the accuracy features ran,
+// computed without drawing: the error band as one closed outline (upper edge
+// forward, lower edge back), the unreliable ends of the record, and the
+// accurate curve.
+#pragma once
+
+#include "transform/accurate/accuracy_run.h"
+#include "transform/window/plot/plot_model.h"
+
+namespace lapdesk {
+
+// The first points of the record ring around the jump f makes at t = 0
+// (the FFT gives half of f(0+) there): t below this many steps is shaded.
+inline constexpr int kUnreliableFirstSteps = 4;
+
+struct AccuracyLayers {
+    Curve bandOutline;  // empty without a band
+    AxisRange unreliableStart;
+    AxisRange unreliableEnd;  // from 0.8 T to T
+    Curve accurate;           // points where the accurate inversion applied
+};
+
+AccuracyLayers MakeAccuracyLayers(const TransformDriver& fft, const AccuracyReport& report);
+
+}  // namespace lapdesk

@@ -1,0 +1,64 @@
+// The accuracy features in the transform window: the method choice and the
+// legend of what the plot adds (next to the parameters), the warning banner
+// over the plot, the error band, the unreliable ends and the accurate curve
+// drawn over the result, and the accurate value and estimates at the cursor.
+// It keeps the report of the last run made by the program.
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <functional>
+#include <optional>
+
+#include "interp/interpreter.h"
+#include "transform/accurate/accuracy_run.h"
+
+class QComboBox;
+class QLabel;
+class QWidget;
+
+namespace lapdesk {
+
+class ScrnPlot;
+
+class AccuracyView : public QObject {
+    Q_OBJECT
+  public:
+    using StatusSink = std::function<void(const QString&)>;
+
+    // The banner lives over scrn; the panel is made here, to be placed.
+    AccuracyView(ScrnPlot* scrn, QObject* parent = nullptr);
+
+    QWidget* Panel() const { return panel_; }
+    bool AccurateChosen() const;
+
+    // After the program made the data and the FFT ran on it: the singularity
+    // check, the band and, when chosen, the accurate inversion. The user's
+    // stop request ends it.
+    void RunAfterProgram(const TransformDriver& fft, Interpreter& session,
+                         const StatusSink& status);
+    // Data from a file, or parameters changed: there is nothing to show.
+    void Forget();
+    const std::optional<AccuracyReport>& Report() const { return report_; }
+
+    // Adds the layers over a result just drawn (nothing over the samples).
+    void Decorate(const TransformDriver& fft);
+    // The accurate value and the estimates nearest to t.
+    void ShowReadout(const TransformDriver& fft, double t);
+
+  private:
+    QWidget* BuildPanel();
+    void ShowBanner(const QString& text);
+    bool Shows(const TransformDriver& fft) const;
+
+    ScrnPlot* scrn_;
+    QWidget* panel_ = nullptr;
+    QComboBox* method_ = nullptr;
+    QLabel* readout_ = nullptr;
+    QLabel* banner_ = nullptr;
+    std::optional<AccuracyReport> report_;
+    Conditions madeFor_;
+};
+
+}  // namespace lapdesk
