@@ -44,7 +44,11 @@ int RunInvert(const InvertOptions& options) {
     ConsoleView view(false);
     Interpreter session(view);
     session.SetProgramText(program.text);
-    if (!TesmorDataSet(driver, session)) return 1;
+    const Outcome made = MakeDataFromProgram(driver, session);
+    if (!made.ok) {
+        std::cerr << "lapdesk-cli invert: " << made.reason << '\n';
+        return 1;
+    }
     return WriteTransformOutputs(driver, program.text, options.outputs, "invert");
 }
 

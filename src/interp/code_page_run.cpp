@@ -65,6 +65,7 @@ bool ClsCode::APc02CodeExecute(double& re, double& im) {
         if (!analized_ && !APc01CodeAnalize()) return false;
         session_.view().ShowPageIndex(pageIndex_);
         std::int16_t line = 0;
+        currentLine_ = -1;
         flow = RunLoop(line, 0, Sub16(LineNum(), 1));
     } catch (const RuntimeFault& error) {
         fault = error.description();
@@ -75,6 +76,7 @@ bool ClsCode::APc02CodeExecute(double& re, double& im) {
         fault = "メモリが不足しています。";
     }
     if (!fault.empty()) {
+        if (currentLine_ >= 0) session_.view().ShowFaultLocation(pageName_, Add16(currentLine_, 1));
         session_.view().Errmessage("実行時異常終了" + std::string(kCrLf) + fault);
         return false;
     }

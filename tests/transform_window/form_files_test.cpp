@@ -105,9 +105,9 @@ TEST_F(FilesTest, AFileThatDoesNotFitTheAnswersReadsNothing) {
     const WisardAnswers answers;
     AnswerWisard(&answers);
     Click("ButtonDataRead");
-    EXPECT_EQ(statuses.back(), QStringLiteral("データ読込み失敗"));
-    EXPECT_TRUE(Find<QLabel>("StatusBar")->toolTip().contains(QStringLiteral("lines")))
-        << "the reason is at hand";
+    EXPECT_TRUE(SawStatus(QStringLiteral("データ読込み失敗")));
+    EXPECT_TRUE(statuses.back().startsWith(QStringLiteral("データ読込み失敗：")));
+    EXPECT_TRUE(Text("StatusBar").contains(QStringLiteral("131"))) << "the reason is shown";
     EXPECT_EQ(Text("DataSourceLb"), QStringLiteral("Non"));
 }
 

@@ -41,7 +41,8 @@ TEST_F(PlotTest, EscStopsADrawingInProgress) {
     auto* list = Find<QListWidget>("WrdList");
     QListWidgetItem* n4096 = list->findItems(QStringLiteral("4096"), Qt::MatchExactly).front();
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(n4096).center());
-    QApplication::processEvents();
+    RunProgram(QStringLiteral("Return 1/(p+1)\nEnd"));
+    ASSERT_EQ(Text("DataSourceLb"), QStringLiteral("Math"));
     // Esc arrives while the drawing lets events run for the first time.
     QMetaObject::invokeMethod(
         form.get(), [this] { QTest::keyClick(form.get(), Qt::Key_Escape); }, Qt::QueuedConnection);

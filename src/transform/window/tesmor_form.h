@@ -112,6 +112,7 @@ class TesmorForm : public QMainWindow, public TransformPartner {
     void ShowNewResult();
     void ShowFailure(const std::string& reason);
     void ShowStateLabels();
+    void DropStaleDrawing();
     void SetBusy(bool busy);
     void DrawContent(std::string_view name, bool result);
     void ClearReadout();

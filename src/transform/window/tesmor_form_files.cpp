@@ -62,6 +62,13 @@ void TesmorForm::ReadLapData() {
 // program; an existing file is replaced only when the user says OK.
 void TesmorForm::WriteTransformFile() {
     SetStatus(QString());
+    // Refused before a name is asked for: the y column would not belong to
+    // the samples and parameters beside it.
+    if (const Outcome allowed = CanWriteTransformFile(driver_); !allowed.ok) {
+        SetStatus(kWriteFailed);
+        ShowFailure(allowed.reason);
+        return;
+    }
     QString path = ChooseDataFile(FileDialogKind::Save, QStringLiteral("データファイルを保存"));
     if (!path.isEmpty()) path = WithDataSuffix(path);
     if (!path.isEmpty() && QFileInfo::exists(path) &&
