@@ -120,6 +120,8 @@ class TesmorForm : public QMainWindow, public TransformPartner {
     // Parameter entry (tesmor_form_entry.cpp).
     void OpenEntryBox(QLabel* label, QLineEdit* box);
     void CloseEntryBox(QLabel* label, QLineEdit* box);
+    void MarkRejected(QLineEdit* box, bool rejected);
+    bool EntryBoxEvent(QLineEdit* box, QEvent* event);
 
     // Files (tesmor_form_files.cpp).
     QString ChooseDataFile(FileDialogKind kind, const QString& title);

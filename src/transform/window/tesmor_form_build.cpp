@@ -257,6 +257,10 @@ QWidget* TesmorForm::BuildConditionsFrame() {
     ganmaText_ = MakeEntryBox("GanmaText");
     connect(tendText_, &QLineEdit::returnPressed, this, &TesmorForm::TendText_Enter);
     connect(ganmaText_, &QLineEdit::returnPressed, this, &TesmorForm::GanmaText_Enter);
+    for (QLineEdit* box : {tendText_, ganmaText_}) {
+        box->installEventFilter(this);
+        connect(box, &QLineEdit::textEdited, this, [this, box] { MarkRejected(box, false); });
+    }
     haningCheck_ = Named(new QCheckBox(QStringLiteral("H.W.")), "HaningCheck");
     haningCheck_->setToolTip(QStringLiteral("ハニングウインドゥ使用"));
     connect(haningCheck_, &QCheckBox::clicked, this, &TesmorForm::HaningCheck_Click);

@@ -2,6 +2,7 @@
 // boxes) and the plot's cursor readout.
 #include <QApplication>
 #include <QClipboard>
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -52,20 +53,65 @@ void TesmorForm::OpenEntryBox(QLabel* label, QLineEdit* box) {
     buttonsFrame_->hide();
 }
 
+// Closing twice does no harm: hiding the box takes its focus away, which
+// closes it again.
 void TesmorForm::CloseEntryBox(QLabel* label, QLineEdit* box) {
+    MarkRejected(box, false);
     box->hide();
     label->show();
     if (tendText_->isHidden() && ganmaText_->isHidden()) buttonsFrame_->show();
     ShowStateLabels();
 }
 
-// A text that is not a number greater than 0 leaves the box open.
+// A text that is not a number greater than 0 leaves the box open, marked
+// red until it is edited; no message interrupts the typing.
 void TesmorForm::TendText_Enter() {
-    if (driver_.SetTend(tendText_->text().toStdString())) CloseEntryBox(tendLb_, tendText_);
+    if (driver_.SetTend(tendText_->text().toStdString())) {
+        CloseEntryBox(tendLb_, tendText_);
+    } else {
+        MarkRejected(tendText_, true);
+    }
 }
 
 void TesmorForm::GanmaText_Enter() {
-    if (driver_.SetGanma(ganmaText_->text().toStdString())) CloseEntryBox(ganmalb_, ganmaText_);
+    if (driver_.SetGanma(ganmaText_->text().toStdString())) {
+        CloseEntryBox(ganmalb_, ganmaText_);
+    } else {
+        MarkRejected(ganmaText_, true);
+    }
+}
+
+void TesmorForm::MarkRejected(QLineEdit* box, bool rejected) {
+    box->setProperty("rejected", rejected);
+    box->setStyleSheet(rejected ? QStringLiteral("background: #ffd0d0; color: #8b0000;")
+                                : QString());
+    box->setToolTip(rejected ? QStringLiteral("0 より大きい数を入力してください（Esc で取消）")
+                             : QString());
+}
+
+// Esc, or the focus going elsewhere in the window, leaves the value as it
+// was and brings the commands back.
+bool TesmorForm::EntryBoxEvent(QLineEdit* box, QEvent* event) {
+    QLabel* label = box == tendText_ ? tendLb_ : ganmalb_;
+    switch (event->type()) {
+        case QEvent::ShortcutOverride:
+        case QEvent::KeyPress:
+            if (static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape) return false;
+            // Taken before the window's Esc shortcut sees it.
+            event->accept();
+            if (event->type() == QEvent::KeyPress) CloseEntryBox(label, box);
+            return true;
+        case QEvent::FocusOut: {
+            const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+            if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+                box->isVisible()) {
+                CloseEntryBox(label, box);
+            }
+            return false;
+        }
+        default:
+            return false;
+    }
 }
 
 void TesmorForm::HaningCheck_Click() {
@@ -75,6 +121,9 @@ void TesmorForm::HaningCheck_Click() {
 // Clicks on the parameter labels, Enter in the N list, and the readout
 // leaving the plot.
 bool TesmorForm::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == tendText_ || watched == ganmaText_) {
+        return EntryBoxEvent(static_cast<QLineEdit*>(watched), event);
+    }
     const QEvent::Type type = event->type();
     if (type == QEvent::MouseButtonRelease &&
         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
