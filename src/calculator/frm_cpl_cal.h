@@ -96,6 +96,9 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     void MenueTesmorSample_Click(int index);
     const QString& FileErrorText() const { return files_.fileErrorText(); }
     const QString& ProgramFileName() const { return programFileName_; }
+    // The file dialogs with the last folder used, shared with the transform
+    // window so that both start where the user last was.
+    FileNameChooser& FileNames() { return files_; }
 
     // Transform link and data channels.
     void TesmorCliant(TransformPartner* partner);

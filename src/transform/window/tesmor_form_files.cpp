@@ -26,8 +26,8 @@ QString WithDataSuffix(const QString& path) {
 }  // namespace
 
 QString TesmorForm::ChooseDataFile(FileDialogKind kind, const QString& title) {
-    return dialogs_->ChooseFile(this, kind, title, fileName_,
-                                DialogFilter(QString::fromLatin1(kFileFilter)));
+    return calculator_->FileNames().ChooseFile(this, kind, title, fileName_,
+                                               QStringLiteral("Data(*.Ldt)"));
 }
 
 // The file, then the wizard's answers (parameter line, first data line,
