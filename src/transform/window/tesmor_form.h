@@ -6,6 +6,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointF>
 #include <QString>
 #include <memory>
 #include <string_view>
@@ -116,6 +117,8 @@ class TesmorForm : public QMainWindow, public TransformPartner {
     void SetBusy(bool busy);
     void DrawContent(std::string_view name, bool result);
     void ClearReadout();
+    void ShowReadout();
+    void HideReadoutLabel();
 
     // Parameter entry (tesmor_form_entry.cpp).
     void OpenEntryBox(QLabel* label, QLineEdit* box);
@@ -141,6 +144,8 @@ class TesmorForm : public QMainWindow, public TransformPartner {
     QLabel* posX_ = nullptr;
     QLabel* posY_ = nullptr;
     QLabel* nowDispLb_ = nullptr;
+    QPointF cursor_;  // last cursor position over the plot
+    bool cursorInside_ = false;
 
     // Result frame.
     DraggableFrame* frame3_ = nullptr;

@@ -128,6 +128,7 @@ QWidget* TesmorForm::BuildPlotArea() {
     scrn_->installEventFilter(this);
     connect(scrn_, &QCustomPlot::mouseMove, this, &TesmorForm::Scrn_MouseMove);
     connect(scrn_, &QCustomPlot::mouseRelease, this, &TesmorForm::Scrn_MouseUp);
+    connect(scrn_, &QCustomPlot::afterReplot, this, &TesmorForm::ShowReadout);
     floatLb_ = MakeLabel("FloatLb", QString());
     floatLb_->setParent(scrn_);
     floatLb_->setAutoFillBackground(true);
@@ -139,6 +140,7 @@ QWidget* TesmorForm::BuildPlotArea() {
     floatLb_->setAttribute(Qt::WA_TransparentForMouseEvents);
     floatLb_->hide();
     BuildResultFrame();
+    frame3_->installEventFilter(this);
 
     posX_ = MakeLabel("PosX", QStringLiteral("t= "));
     posY_ = MakeLabel("PosY", QStringLiteral("y= "));

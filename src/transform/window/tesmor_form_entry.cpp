@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QMouseEvent>
 
+#include "transform/window/draggable_frame.h"
 #include "transform/window/plot/scrn_plot.h"
 #include "transform/window/tesmor_form.h"
 
@@ -139,8 +140,9 @@ bool TesmorForm::eventFilter(QObject* watched, QEvent* event) {
         }
     } else if (type == QEvent::FocusOut && watched == wrdList_) {
         wrdList_->hide();
-    } else if (type == QEvent::Leave && watched == scrn_) {
-        floatLb_->hide();
+    } else if ((type == QEvent::Leave && watched == scrn_) ||
+               (type == QEvent::Enter && watched == frame3_)) {
+        HideReadoutLabel();
     }
     return QMainWindow::eventFilter(watched, event);
 }
@@ -148,15 +150,23 @@ bool TesmorForm::eventFilter(QObject* watched, QEvent* event) {
 // The t and y under the cursor, in PosX, PosY and the floating label, which
 // follows the cursor and stays inside the plot.
 void TesmorForm::Scrn_MouseMove(QMouseEvent* event) {
-    const QPointF at = event->position();
+    cursor_ = event->position();
+    cursorInside_ = true;
+    ShowReadout();
+}
+
+// Read again after every replot, so a pan or zoom under a still cursor
+// shows the values under it now, not those of the view before.
+void TesmorForm::ShowReadout() {
+    if (!cursorInside_) return;
     const Conditions c = driver_.GetConditions();
-    const double t = ReadoutTime(scrn_->view(), scrn_->xAxis->pixelToCoord(at.x()), c.T, c.N);
-    const double y = scrn_->yAxis->pixelToCoord(at.y());
-    posX_->setText(QString::fromStdString(ReadoutText("t= ", t)));
+    const double x = scrn_->xAxis->pixelToCoord(cursor_.x());
+    const double y = scrn_->yAxis->pixelToCoord(cursor_.y());
+    posX_->setText(QString::fromStdString(ReadoutXText(scrn_->view(), x, c.T, c.N)));
     posY_->setText(QString::fromStdString(ReadoutText("y= ", y)));
     floatLb_->setText(posX_->text() + QLatin1Char('\n') + posY_->text());
     floatLb_->adjustSize();
-    QPoint place = at.toPoint() + QPoint(14, 14);
+    QPoint place = cursor_.toPoint() + QPoint(14, 14);
     if (place.x() + floatLb_->width() > scrn_->width()) place.rx() -= floatLb_->width() + 28;
     if (place.y() + floatLb_->height() > scrn_->height()) place.ry() -= floatLb_->height() + 28;
     floatLb_->move(place);
@@ -164,8 +174,17 @@ void TesmorForm::Scrn_MouseMove(QMouseEvent* event) {
     floatLb_->raise();
 }
 
+void TesmorForm::HideReadoutLabel() {
+    cursorInside_ = false;
+    floatLb_->hide();
+}
+
+// The copy is read where the button was released.
 void TesmorForm::Scrn_MouseUp(QMouseEvent* event) {
     if (event->button() != Qt::RightButton) return;
+    cursor_ = event->position();
+    cursorInside_ = true;
+    ShowReadout();
     QClipboard* clipboard = QApplication::clipboard();
     clipboard->clear();
     clipboard->setText(floatLb_->text());
