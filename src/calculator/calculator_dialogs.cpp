@@ -14,11 +14,13 @@ QMessageBox::StandardButton QtCalculatorDialogs::Ask(QWidget* parent, const QStr
 }
 
 QString QtCalculatorDialogs::ChooseFile(QWidget* parent, FileDialogKind kind, const QString& title,
-                                        const QString& initialPath, const QString& filter) {
+                                        const QString& initialPath, const QString& filter,
+                                        const QString& selectedFilter) {
+    QString chosenFilter = selectedFilter;
     if (kind == FileDialogKind::Open) {
-        return QFileDialog::getOpenFileName(parent, title, initialPath, filter);
+        return QFileDialog::getOpenFileName(parent, title, initialPath, filter, &chosenFilter);
     }
-    return QFileDialog::getSaveFileName(parent, title, initialPath, filter, nullptr,
+    return QFileDialog::getSaveFileName(parent, title, initialPath, filter, &chosenFilter,
                                         QFileDialog::DontConfirmOverwrite);
 }
 

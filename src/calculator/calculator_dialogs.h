@@ -19,10 +19,13 @@ class CalculatorDialogs {
     virtual QMessageBox::StandardButton Ask(QWidget* parent, const QString& title,
                                             const QString& text,
                                             QMessageBox::StandardButtons buttons) = 0;
-    // The chosen file name, or "" when the dialog was cancelled. Overwriting
-    // is confirmed by the caller, not by the dialog.
+    // The chosen file name, or "" when the dialog was cancelled. The dialog
+    // opens at initialPath (a folder, or a file in it) with selectedFilter,
+    // one entry of filter, chosen. Overwriting is confirmed by the caller,
+    // not by the dialog.
     virtual QString ChooseFile(QWidget* parent, FileDialogKind kind, const QString& title,
-                               const QString& initialPath, const QString& filter) = 0;
+                               const QString& initialPath, const QString& filter,
+                               const QString& selectedFilter) = 0;
 };
 
 // The real dialogs.
@@ -31,7 +34,8 @@ class QtCalculatorDialogs : public CalculatorDialogs {
     QMessageBox::StandardButton Ask(QWidget* parent, const QString& title, const QString& text,
                                     QMessageBox::StandardButtons buttons) override;
     QString ChooseFile(QWidget* parent, FileDialogKind kind, const QString& title,
-                       const QString& initialPath, const QString& filter) override;
+                       const QString& initialPath, const QString& filter,
+                       const QString& selectedFilter) override;
 };
 
 }  // namespace lapdesk

@@ -13,15 +13,15 @@ namespace lapdesk {
 bool FileNameChooser::Choose(QWidget* parent, QString& fileName, std::int16_t mode) {
     if (mode != kOpenProgramDialog && mode != kSaveProgramDialog) return false;
     const bool saving = mode == kSaveProgramDialog;
-    const QString chosen =
-        dialogs_.ChooseFile(parent, saving ? FileDialogKind::Save : FileDialogKind::Open,
-                            saving ? QStringLiteral("プログラムファイルを保存")
-                                   : QStringLiteral("プログラムファイルを開く"),
-                            InitialPath(fileName), DialogFilter(QString::fromLatin1(kFileFilter)));
+    QString chosen = ChooseFile(parent, saving ? FileDialogKind::Save : FileDialogKind::Open,
+                                saving ? QStringLiteral("プログラムファイルを保存")
+                                       : QStringLiteral("プログラムファイルを開く"),
+                                fileName, QStringLiteral("Program(*.Prg)"));
     if (chosen.isEmpty()) {
         fileErrorText_ = QStringLiteral("キャンセルされました");
         return false;
     }
+    if (saving && QFileInfo(chosen).suffix().isEmpty()) chosen += QStringLiteral(".Prg");
     if (saving && QFile(chosen).open(QIODevice::ReadOnly)) {
         fileErrorText_ = QStringLiteral("ファイルは既に有ります");
         const auto answer = dialogs_.Ask(parent, QString(),
@@ -29,20 +29,30 @@ bool FileNameChooser::Choose(QWidget* parent, QString& fileName, std::int16_t mo
                                          QMessageBox::Ok | QMessageBox::Cancel);
         if (answer != QMessageBox::Ok) return false;
     }
-    lastDirectory_ = QFileInfo(chosen).path();
     fileName = chosen;
     return true;
 }
 
+QString FileNameChooser::ChooseFile(QWidget* parent, FileDialogKind kind, const QString& title,
+                                    const QString& fileName, const QString& selectedFilter) {
+    const QString chosen =
+        dialogs_.ChooseFile(parent, kind, title, InitialPath(fileName, kind),
+                            DialogFilter(QString::fromLatin1(kFileFilter)), selectedFilter);
+    if (!chosen.isEmpty()) lastDirectory_ = QFileInfo(chosen).path();
+    return chosen;
+}
+
 // The given name's folder when it has one, else the last folder used, else
-// the program's own folder.
-QString FileNameChooser::InitialPath(const QString& fileName) {
+// the program's own folder. Only a save dialog gets the name as well: in an
+// open dialog it would narrow the list to that one file.
+QString FileNameChooser::InitialPath(const QString& fileName, FileDialogKind kind) {
     if (appDirectory_.isEmpty()) appDirectory_ = QCoreApplication::applicationDirPath();
     const QFileInfo info(fileName);
     const bool hasFolder = fileName.contains('/');
     const QString folder = hasFolder                   ? info.path()
                            : !lastDirectory_.isEmpty() ? lastDirectory_
                                                        : appDirectory_;
+    if (kind == FileDialogKind::Open || info.fileName().isEmpty()) return folder;
     return QDir(folder).filePath(info.fileName());
 }
 

@@ -37,6 +37,9 @@ void FrmCplCal::ButtonEnter_Click() {
     histryList_->insertItem(0, HistoryEntry(imidateTextBox_->text(), kai_->text()));
     histryList_->setCurrentRow(0);
     if (memory_->isVisible()) memory_->CommandReShowMemorys_Click();
+    // The next line is typed where this one was, whether it came by Enter
+    // or by the "=" button, and whatever the memory display did.
+    imidateTextBox_->setFocus();
 }
 
 // Shift alone: smaller; Ctrl alone: recall the entry; otherwise larger.
@@ -67,22 +70,59 @@ void FrmCplCal::ZoomFont(QWidget* widget) {
 }
 
 // Shows the message and blocks the caller until it is double-clicked away;
-// the program buttons and the File menu wait with it.
+// the program buttons and the File menu wait with it. An abnormal end gets
+// the line it happened on, and the editor marks the line every located
+// error names.
 void FrmCplCal::Errmessage(const std::string& message) {
     QString text = QString::fromStdString(message);
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    std::optional<ErrorLocation> location = ParseErrorLocation(text);
+    if (!location && faultLocation_) {
+        location = faultLocation_;
+        text += QLatin1Char('\n') + LocationText(*location);
+    }
+    faultLocation_.reset();
     messageBox_->setText(text);
     messageBase_->show();
     messageBase_->raise();
     // The message can only be dismissed where it can be seen.
     if (!isVisible()) show();
     raise();
-    MarkErrorLocation(message);
-    messageWaiting_ = true;
-    UpdateEnabled();
+    if (location) MarkErrorLocation(*location);
+    HoldInputForMessage(true);
     emit messageShown(text);
     Waite();
+    HoldInputForMessage(false);
+}
+
+// "Main: 3行目: b = 1 / a": the page, the statement number and its text.
+QString FrmCplCal::LocationText(const ErrorLocation& location) {
+    QString text = location.page + QStringLiteral(": ") + QString::number(location.statement) +
+                   QStringLiteral("行目");
+    const ClsCode* page = interpreter_.FindPage(location.page.toStdString());
+    const int line = location.statement - 1;
+    if (page != nullptr && line >= 0 && line < page->LineNum()) {
+        text += QStringLiteral(": ") +
+                QString::fromStdString(page->Line(static_cast<std::int16_t>(line)).Text);
+    }
+    return text;
+}
+
+// While a message waits, keys go to the message panel, not into the
+// program behind it; the program text stays readable but not editable.
+void FrmCplCal::HoldInputForMessage(bool hold) {
+    messageWaiting_ = hold;
     UpdateEnabled();
+    programText_->setReadOnly(hold);
+    if (hold) {
+        if (QWidget* focused = QApplication::focusWidget(); focused != messageBase_) {
+            focusBeforeMessage_ = focused;
+        }
+        messageBase_->setFocus();
+    } else if (focusBeforeMessage_ != nullptr && !messageWaiting_) {
+        focusBeforeMessage_->setFocus();
+        focusBeforeMessage_ = nullptr;
+    }
 }
 
 // One nested event loop per waiting caller; a dismissal ends them all. A
@@ -129,8 +169,10 @@ void FrmCplCal::OptionProgram_Click() {
     if (isVisible()) programText_->setFocus();
 }
 
+// The program text takes the focus even when program mode was already on.
 void FrmCplCal::ShowProgramMode() {
     optionProgram_->setChecked(true);
+    if (isVisible()) programText_->setFocus();
 }
 
 void FrmCplCal::CommandKeyBoard_Click() {

@@ -6,11 +6,15 @@
 
 #include <QMainWindow>
 #include <QPoint>
+#include <QPointer>
 #include <cstdint>
 #include <memory>
+#include <optional>
+#include <vector>
 
 #include "calculator/active_text_box.h"
 #include "calculator/calculator_dialogs.h"
+#include "calculator/error_location.h"
 #include "calculator/file_name_chooser.h"
 #include "calculator/transform_link.h"
 #include "interp/interpreter.h"
@@ -61,7 +65,7 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     void ShowProgramMode();
     void ButtonPrgRun_Click();
     void MenueExe_Click();
-    void ButtonStop_Click() { stopRequested_ = true; }
+    void ButtonStop_Click();
     void MenueExeList_Click();
     void Waite();
     void SetStopRequested(bool on) { stopRequested_ = on; }
@@ -92,6 +96,9 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     void MenueTesmorSample_Click(int index);
     const QString& FileErrorText() const { return files_.fileErrorText(); }
     const QString& ProgramFileName() const { return programFileName_; }
+    // The file dialogs with the last folder used, shared with the transform
+    // window so that both start where the user last was.
+    FileNameChooser& FileNames() { return files_; }
 
     // Transform link and data channels.
     void TesmorCliant(TransformPartner* partner);
@@ -122,6 +129,7 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     bool StopRequested() const override { return stopRequested_; }
     void ClearStopRequest() override { stopRequested_ = false; }
     void ShowTransformProgress(bool on) override { SetProgressView(on); }
+    void ShowFaultLocation(const std::string& pageName, std::int16_t statement) override;
     void ProcessEvents() override;
 
   signals:
@@ -150,8 +158,13 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     // Running (frm_cpl_cal_run.cpp).
     void StartRun();
     bool RunDriver(bool clearGlobals);
+    void BeginRun();
+    void EndRun();
     void ShowExecutionList(bool list);
-    void MarkErrorLocation(const std::string& message);
+    void MarkErrorLocation(const ErrorLocation& location);
+    int EditorLineOf(const ClsCode& page, int statement);
+    QString LocationText(const ErrorLocation& location);
+    void HoldInputForMessage(bool hold);
     void UpdateEnabled();
 
     void ProgramText_Change();
@@ -214,11 +227,16 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     bool immediateOk_ = false;
     bool messageWaiting_ = false;
     bool stopRequested_ = false;
+    bool stopPressed_ = false;  // the stop button ended the present run
     bool running_ = false;
     bool programMode_ = false;
     bool arrayPanelOpen_ = false;
     bool selectionMode_ = false;
     bool keyboardBeforeProgress_ = false;
+    std::int16_t runningPage_ = -1;
+    std::vector<int> statementLines_;  // editor line of each execution list entry
+    std::optional<ErrorLocation> faultLocation_;
+    QPointer<QWidget> focusBeforeMessage_;  // gets the focus back after a message
     QString programFileName_;
     TransformPartner* tesmorPartner_ = nullptr;
     bool tesmorLinked_ = false;

@@ -196,6 +196,7 @@ QWidget* FrmCplCal::BuildCalcuFrame() {
 QWidget* FrmCplCal::BuildMessageBase() {
     messageBase_ = Named(new QFrame, "MessageBase");
     messageBase_->setFrameShape(QFrame::Box);
+    messageBase_->setFocusPolicy(Qt::ClickFocus);
     messageBox_ = Named(new QLabel, "MessageBox");
     messageBox_->setWordWrap(true);
     messageBox_->setAutoFillBackground(true);

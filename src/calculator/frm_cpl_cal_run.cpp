@@ -6,6 +6,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+#include <QStatusBar>
 
 #include "calculator/code_editor.h"
 #include "calculator/error_location.h"
@@ -42,27 +43,47 @@ void FrmCplCal::StartRun() {
     } else {
         RunDriver(menueClearGlVar_->isChecked());
     }
-    if (memory_->isVisible()) memory_->CommandReShowMemorys_Click();
 }
 
 // Always erases the globals first, whatever MenueClearGlVar says.
 void FrmCplCal::MenueExe_Click() {
     RunDriver(true);
-    if (memory_->isVisible()) memory_->CommandReShowMemorys_Click();
 }
 
 bool FrmCplCal::RunDriver(bool clearGlobals) {
     if (running_ || interpreter_.Running()) return false;
-    stopRequested_ = false;
-    running_ = true;
-    programText_->MarkErrorLine(-1);
-    UpdateEnabled();
+    BeginRun();
     double re = 0.0;
     double im = 0.0;
     const bool ok = interpreter_.RunProgram(re, im, clearGlobals, true);
+    EndRun();
+    if (stopPressed_) {
+        statusBar()->showMessage(kRunInterrupted);
+    } else if (!ok) {
+        statusBar()->showMessage(QStringLiteral("プログラムの実行が失敗しました"));
+    }
+    return ok;
+}
+
+// A run starts with no old stop request, error mark or file message.
+void FrmCplCal::BeginRun() {
+    stopRequested_ = false;
+    stopPressed_ = false;
+    running_ = true;
+    programText_->MarkErrorLine(-1);
+    statusBar()->clearMessage();
+    UpdateEnabled();
+}
+
+void FrmCplCal::EndRun() {
     running_ = false;
     UpdateEnabled();
-    return ok;
+    if (memory_->isVisible()) memory_->CommandReShowMemorys_Click();
+}
+
+void FrmCplCal::ButtonStop_Click() {
+    stopRequested_ = true;
+    if (running_) stopPressed_ = true;
 }
 
 void FrmCplCal::MenueExeList_Click() {
@@ -91,41 +112,62 @@ void FrmCplCal::UpdateEnabled() {
 }
 
 void FrmCplCal::ProgramText_Change() {
+    statementLines_.clear();
     interpreter_.SetProgramText(EditorTextToProgram(programText_->toPlainText()).toStdString());
 }
 
-// Marks the editor line of the statement an analysis or run error names.
-// The first error of a run is the one that failed; those after it are the
-// callers that failed with it.
-void FrmCplCal::MarkErrorLocation(const std::string& message) {
-    const auto location = ParseErrorLocation(QString::fromStdString(message));
-    if (!location || programText_->errorLine() >= 0) return;
-    const ClsCode* page = interpreter_.FindPage(location->page.toStdString());
-    const int line = location->statement - 1;
-    if (page == nullptr || line < 0 || line >= page->LineNum()) return;
-    const int entry = page->Line(static_cast<std::int16_t>(line)).LnNo;
-    QStringList statements;
-    for (int k = 0; k < programList_->count(); ++k)
-        statements << programList_->item(k)->text();
-    const std::vector<int> lines =
-        MapStatementsToLines(programText_->toPlainText().split('\n'), statements);
-    if (entry >= 0 && entry < static_cast<int>(lines.size()) && lines[entry] >= 0) {
-        programText_->MarkErrorLine(lines[entry]);
-    }
+// Marks the editor line of the statement an error names. The first error of
+// a run is the one that failed; those after it are the callers that failed
+// with it.
+void FrmCplCal::MarkErrorLocation(const ErrorLocation& location) {
+    if (programText_->errorLine() >= 0) return;
+    const ClsCode* page = interpreter_.FindPage(location.page.toStdString());
+    if (page == nullptr) return;
+    const int line = EditorLineOf(*page, location.statement - 1);
+    if (line >= 0) programText_->MarkErrorLine(line);
 }
 
+// The editor line (0-based) of a page's statement, or -1. The statements of
+// the execution list are matched to the editor's lines once per listing.
+int FrmCplCal::EditorLineOf(const ClsCode& page, int statement) {
+    if (statement < 0 || statement >= page.LineNum()) return -1;
+    if (statementLines_.empty() && programList_->count() > 0) {
+        QStringList statements;
+        for (int k = 0; k < programList_->count(); ++k)
+            statements << programList_->item(k)->text();
+        statementLines_ = MapStatementsToLines(programText_->toPlainText().split('\n'), statements);
+    }
+    const int entry = page.Line(static_cast<std::int16_t>(statement)).LnNo;
+    if (entry < 0 || entry >= static_cast<int>(statementLines_.size())) return -1;
+    return statementLines_[entry];
+}
+
+// The running page by name and its line as the editor numbers it.
 void FrmCplCal::ShowPageIndex(std::int16_t pageIndex) {
-    pgLb_->setNum(pageIndex);
+    runningPage_ = pageIndex;
+    const bool known = pageIndex >= 0 && pageIndex < interpreter_.PageCount();
+    pgLb_->setText(known ? QString::fromStdString(interpreter_.Page(pageIndex).PageName())
+                         : QString::number(pageIndex));
 }
+
 void FrmCplCal::ShowLineIndex(std::int16_t lineIndex) {
-    pcLb_->setNum(lineIndex);
+    const bool known = runningPage_ >= 0 && runningPage_ < interpreter_.PageCount();
+    const int line = known ? EditorLineOf(interpreter_.Page(runningPage_), lineIndex) : -1;
+    pcLb_->setText(line >= 0 ? QString::number(line + 1) : QString());
 }
+
 void FrmCplCal::ClearProgramList() {
     programList_->clear();
+    statementLines_.clear();
 }
 
 void FrmCplCal::AddProgramListEntry(const std::string& statement) {
     programList_->addItem(QString::fromStdString(statement));
+    statementLines_.clear();
+}
+
+void FrmCplCal::ShowFaultLocation(const std::string& pageName, std::int16_t statement) {
+    faultLocation_ = ErrorLocation{QString::fromStdString(pageName), statement};
 }
 
 bool FrmCplCal::ProgramListVisible() const {
@@ -201,11 +243,9 @@ void FrmCplCal::ButtonExeProgToMakeTesmorData_Click() {
     tesmorPartner_->ASetLapOpValur();
     label5_->hide();
     // The transform runs the program once per sample: no other run meanwhile.
-    running_ = true;
-    UpdateEnabled();
+    BeginRun();
     const bool made = tesmorPartner_->TesmorDataSet();
-    running_ = false;
-    UpdateEnabled();
+    EndRun();
     if (made) tesmorPartner_->ZOrder();
 }
 

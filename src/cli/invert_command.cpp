@@ -67,7 +67,11 @@ int RunInvert(const InvertOptions& options) {
     ConsoleView view(false);
     Interpreter session(view);
     session.SetProgramText(program.text);
-    if (!TesmorDataSet(driver, session)) return 1;
+    const Outcome made = MakeDataFromProgram(driver, session);
+    if (!made.ok) {
+        std::cerr << "lapdesk-cli invert: " << made.reason << '\n';
+        return 1;
+    }
     // The singularity check runs on every inversion; the band and the
     // accurate inversion when asked for.
     const AccuracyReport report = RunAccuracyChecksOnProgram(

@@ -81,6 +81,7 @@ bool ClsCode::APc02CodeExecute(double& re, double& im) {
         RunningFrame frame(runningFrames_);
         session_.view().ShowPageIndex(pageIndex_);
         std::int16_t line = 0;
+        currentLine_ = -1;
         flow = RunLoop(line, 0, Sub16(LineNum(), 1));
     } catch (const StopRequest&) {
         return false;  // every level returns quietly: the stop request stays set
@@ -93,6 +94,7 @@ bool ClsCode::APc02CodeExecute(double& re, double& im) {
         fault = "メモリが不足しています。";
     }
     if (!fault.empty()) {
+        if (currentLine_ >= 0) session_.view().ShowFaultLocation(pageName_, Add16(currentLine_, 1));
         session_.view().Errmessage("実行時異常終了" + std::string(kCrLf) + fault);
         return false;
     }

@@ -43,6 +43,9 @@ class InterpreterView {
     // Switches the window to the view it shows while the transform runs the
     // program point by point, and back.
     virtual void ShowTransformProgress(bool /*on*/) {}
+    // Where a run ended abnormally: the page and its 1-based statement,
+    // told just before the "実行時異常終了" message.
+    virtual void ShowFaultLocation(const std::string& /*pageName*/, std::int16_t /*statement*/) {}
 };
 
 }  // namespace lapdesk

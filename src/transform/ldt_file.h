@@ -35,10 +35,14 @@ std::string WriteResultText(const TransformDriver& driver);
 // program text with CR LF line breaks.
 std::string TransformFileText(const TransformDriver& driver, std::string_view programText);
 
+// A file holds a y column only when it is the result of the samples and
+// parameters beside it: without a valid result ("OK") nothing is saved.
+Outcome CanWriteTransformFile(const TransformDriver& driver);
+
 // Saves the result text, and the program list when DataSourceLb reads
 // "Math", to a file (cp932, CR LF, replaced only when the whole file was
-// written). programText is the calculator's program; its line breaks are
-// written as CR LF.
+// written), or refuses when CanWriteTransformFile does. programText is the calculator's program;
+// its line breaks are written as CR LF.
 Outcome WriteTransformFile(TransformDriver& driver, const std::filesystem::path& path,
                            std::string_view programText);
 

@@ -68,9 +68,20 @@ std::string TransformFileText(const TransformDriver& driver, std::string_view pr
     return text;
 }
 
+Outcome CanWriteTransformFile(const TransformDriver& driver) {
+    if (driver.ResultLb() == kLabelOk) return Outcome::Success();
+    return Outcome::Failure(
+        "今の N, T, γ0 とデータに合う逆変換結果が無いので保存しません（実行又は逆変換の後に保存"
+        "してください）");
+}
+
 Outcome WriteTransformFile(TransformDriver& driver, const std::filesystem::path& path,
                            std::string_view programText) {
     driver.SetStatus("");
+    if (Outcome allowed = CanWriteTransformFile(driver); !allowed.ok) {
+        driver.SetStatus("データ書きみ失敗");
+        return allowed;
+    }
     driver.SetStatus("データ書込み開始");
     const WriteResult written = WriteTextAtomic(path, TransformFileText(driver, programText));
     if (!written.ok) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <exception>
 #include <string>
 
@@ -36,12 +37,33 @@ double LabelNumber(const std::string& label) {
     return x;
 }
 
-std::string InversionFailure(const RuntimeFault& fault) {
-    if (fault.code() == FaultCode::Overflow) {
-        return "the inversion overflowed: a result is too large for a double "
-               "(a large gamma0 makes exp(k*gamma0/N) overflow)";
+// A number for a reason text: six significant digits are enough to find it.
+std::string Short(double x) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.6g", x);
+    return text;
+}
+
+// The first point where exp(k*gamma0/N)*x[k] leaves the range of a double,
+// read from the inverse FFT that the failed inversion left in the block;
+// -1 when the fault came from the FFT itself.
+int FirstOverflowingPoint(const TransformBlock& block) {
+    const double d = block.Gamma0 / block.N;
+    for (int k = 0; k < block.N; ++k) {
+        if (!std::isfinite(std::exp(k * d) * block.Data[k].Re)) return k;
     }
-    return std::string("the inversion failed: ") + fault.what();
+    return -1;
+}
+
+std::string InversionFailure(const RuntimeFault& fault, const TransformBlock& block,
+                             const Conditions& c) {
+    if (fault.code() != FaultCode::Overflow)
+        return std::string("逆変換できません: ") + fault.what();
+    const int k = FirstOverflowingPoint(block);
+    if (k < 0) return "逆ＦＦＴで桁あふれが生じました（標本値が大き過ぎます）";
+    return "k = " + std::to_string(k) + " (t = " + Short(c.TimeAt(k)) +
+           ") で exp(k·γ0/N)·x[k] が倍精度の範囲を超えました（k·γ0/N = " +
+           Short(k * c.Gamma0 / c.N) + "）。γ0 を小さくしてください";
 }
 
 }  // namespace
@@ -116,16 +138,23 @@ double TransformDriver::HanningWeight(int k) const {
     return (std::cos(k * c) + 1.0) * 0.5;
 }
 
+// The labels read "Non" before the status is shown, so the window never
+// shows the old states beside "データ作成中".
 void TransformDriver::BeginDataCreation() {
-    SetStatus("データ作成中");
     MarkDataInvalid();
+    SetStatus("データ作成中");
+}
+
+std::string TransformDriver::SamplePointText(int k) const {
+    Complex s = SamplePoint(k);
+    return "k = " + std::to_string(k) + " (s = " + ComplexToText(s, true) + ")";
 }
 
 Outcome TransformDriver::StoreSample(int k, const Complex& value) {
     const Conditions c = GetConditions();
     if (k < 0 || k > c.NPos) {
-        return Outcome::Failure("sample index " + std::to_string(k) + " is outside 0.." +
-                                std::to_string(c.NPos));
+        return Outcome::Failure("標本番号 k = " + std::to_string(k) + " は 0.." +
+                                std::to_string(c.NPos) + " の外です");
     }
     const double w = HanningWeight(k);
     const double scale = c.N / c.T;
@@ -136,8 +165,9 @@ Outcome TransformDriver::StoreSample(int k, const Complex& value) {
         re = Checked(Checked(value.Re * scale) * w);
         im = Checked(Checked(value.Im * scale) * w);
     } catch (const RuntimeFault&) {
-        return Outcome::Failure("F(s) at k = " + std::to_string(k) +
-                                " is too large to scale by N/T");
+        Complex f = value;
+        return Outcome::Failure(SamplePointText(k) + ": F(s) = " + ComplexToText(f, true) +
+                                " は N/T 倍すると倍精度の範囲を超えます");
     }
     std::vector<double>& reSeries = store_[kSampleRe].Values;
     std::vector<double>& imSeries = store_[kSampleIm].Values;
@@ -167,7 +197,7 @@ Outcome TransformDriver::MakeData(const std::function<Complex(const Complex&)>& 
         try {
             stored = StoreSample(k, f(SamplePoint(k)));
         } catch (const std::exception& e) {
-            stored = Outcome::Failure("F(s) failed at k = " + std::to_string(k) + ": " + e.what());
+            stored = Outcome::Failure(SamplePointText(k) + ": F(s) を計算できません: " + e.what());
         }
         if (!stored.ok) {
             SetStatus("数値計算実行時エラー");
@@ -197,7 +227,7 @@ Outcome TransformDriver::Invert() {
     } catch (const RuntimeFault& fault) {
         resultLb_ = kLabelNon;
         SetStatus("");
-        return Outcome::Failure(InversionFailure(fault));
+        return Outcome::Failure(InversionFailure(fault, block_, c));
     }
     std::copy_n(output_.begin(), c.N, store_[kResult].Values.begin());
     store_.GetMaxValue(kResult, static_cast<int>(std::nearbyint(0.8 * c.N)));

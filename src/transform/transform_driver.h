@@ -85,6 +85,8 @@ class TransformDriver {
     // N-k (except for k = 0 and k = N/2). A program-driven loop calls
     // BeginDataCreation, StoreSample for every k and FinishDataCreation.
     Complex SamplePoint(int k) const;
+    // "k = 3 (s = 1+3.76991j)": where a failure happened, for its reason.
+    std::string SamplePointText(int k) const;
     double HanningWeight(int k) const;
     void BeginDataCreation();
     Outcome StoreSample(int k, const Complex& value);

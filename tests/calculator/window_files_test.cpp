@@ -122,17 +122,32 @@ TEST_F(FilesTest, CancelledDialogDoesNothing) {
 TEST_F(FilesTest, DialogsStartInTheRightFolder) {
     SetProgram(QStringLiteral("End"));
     Action("MenueReadProgram")->trigger();
-    EXPECT_TRUE(script->initialPaths.last().startsWith(QCoreApplication::applicationDirPath()))
+    EXPECT_EQ(script->initialPaths.last(), QCoreApplication::applicationDirPath())
         << "at first the program's own folder";
     const QString path = folder.filePath(QStringLiteral("c.Prg"));
     script->files = {path};
     Action("MenueWriteProgram")->trigger();
+    script->files = {path};
+    script->answers = {QMessageBox::Ok};
+    Action("MenueWriteProgram")->trigger();
+    EXPECT_EQ(script->initialPaths.last(), path) << "a save dialog has the name preset";
     Action("MenueReadProgram")->trigger();
-    EXPECT_EQ(script->initialPaths.last(), path) << "the current file";
+    EXPECT_EQ(script->initialPaths.last(), folder.path())
+        << "an open dialog starts in the current file's folder, its list not narrowed to it";
     QString bare = QStringLiteral("d.Prg");
-    EXPECT_FALSE(window->SetFileNameCAL(bare, 3));
+    EXPECT_FALSE(window->SetFileNameCAL(bare, 4));
     EXPECT_EQ(script->initialPaths.last(), folder.filePath(QStringLiteral("d.Prg")))
         << "a bare name goes to the last folder used";
+    EXPECT_EQ(script->selectedFilters.last(), QStringLiteral("Program(*.Prg)"));
+}
+
+TEST_F(FilesTest, ASavedProgramWithoutSuffixGetsPrg) {
+    SetProgram(QStringLiteral("End"));
+    script->files = {folder.filePath(QStringLiteral("bare"))};
+    Action("MenueWriteProgram")->trigger();
+    EXPECT_EQ(window->ProgramFileName(), folder.filePath(QStringLiteral("bare.Prg")));
+    EXPECT_TRUE(QFile::exists(folder.filePath(QStringLiteral("bare.Prg"))));
+    EXPECT_FALSE(QFile::exists(folder.filePath(QStringLiteral("bare"))));
 }
 
 TEST_F(FilesTest, SamplesSwitchToProgramMode) {

@@ -17,9 +17,12 @@ QMessageBox::StandardButton ScriptedDialogs::Ask(QWidget*, const QString& title,
 }
 
 QString ScriptedDialogs::ChooseFile(QWidget*, FileDialogKind, const QString& title,
-                                    const QString& initialPath, const QString& filter) {
+                                    const QString& initialPath, const QString& filter,
+                                    const QString& selectedFilter) {
     script_->dialogTitles << title;
     script_->initialPaths << initialPath;
+    script_->selectedFilters << selectedFilter;
+    EXPECT_TRUE(filter.split(QStringLiteral(";;")).contains(selectedFilter)) << "no such filter";
     EXPECT_EQ(filter, QStringLiteral("Program(*.Prg);;Data(*.Ldt);;Text(*.Txt);;All(*.*)"));
     if (script_->files.empty()) return QString();
     const QString file = script_->files.front();

@@ -28,6 +28,7 @@ struct Script {
     std::deque<QString> files;  // the names the file dialogs return, in order
     QStringList dialogTitles;
     QStringList initialPaths;
+    QStringList selectedFilters;
 };
 
 class ScriptedDialogs : public CalculatorDialogs {
@@ -36,7 +37,8 @@ class ScriptedDialogs : public CalculatorDialogs {
     QMessageBox::StandardButton Ask(QWidget* parent, const QString& title, const QString& text,
                                     QMessageBox::StandardButtons buttons) override;
     QString ChooseFile(QWidget* parent, FileDialogKind kind, const QString& title,
-                       const QString& initialPath, const QString& filter) override;
+                       const QString& initialPath, const QString& filter,
+                       const QString& selectedFilter) override;
 
   private:
     std::shared_ptr<Script> script_;

@@ -108,6 +108,18 @@ TEST(TransformFile, FailedSaveKeepsTheOldFile) {
     EXPECT_EQ(log.texts.back(), "データ書きみ失敗");
 }
 
+TEST(TransformFile, WithoutAValidResultNothingIsWritten) {
+    TempFolder folder;
+    TransformDriver driver = MadeDriver();
+    ASSERT_TRUE(driver.SetTend("10"));  // the result belongs to T = 5
+    StatusLog log(driver);
+    const Outcome refused = WriteTransformFile(driver, folder / "stale.Ldt", "F = 1");
+    EXPECT_FALSE(refused.ok);
+    EXPECT_FALSE(refused.reason.empty());
+    EXPECT_EQ(log.texts.back(), "データ書きみ失敗");
+    EXPECT_FALSE(std::filesystem::exists(folder / "stale.Ldt"));
+}
+
 TEST(ReadLapData, ReadsBackWhatWasWrittenToThePrintedPrecision) {
     TempFolder folder;
     const TransformDriver original = MadeDriver();

@@ -53,6 +53,7 @@ TEST_F(EntryTest, TheBoxesRejectNonNumbersAndValuesNotAboveZero) {
             box->setText(QString::fromLatin1(text));
             QTest::keyClick(box, Qt::Key_Return);
             EXPECT_TRUE(box->isVisible()) << entry.box << " took \"" << text << "\"";
+            EXPECT_TRUE(box->property("rejected").toBool()) << "marked: " << text;
             EXPECT_EQ(Text(entry.label), QStringLiteral("5")) << entry.box << " \"" << text << "\"";
             EXPECT_FALSE(Find<QWidget>("ButtonsFrame")->isVisible());
         }
@@ -67,13 +68,30 @@ TEST_F(EntryTest, TheBoxesRejectNonNumbersAndValuesNotAboveZero) {
     EXPECT_EQ(c.Gamma0, 2.5);
 }
 
-TEST_F(EntryTest, TheCommandsWaitUntilBothBoxesAreClosed) {
+TEST_F(EntryTest, EscAndAClickElsewhereCancelTheEntry) {
+    RunProgram(QStringLiteral("Return 1/(p+1)\nEnd"));
     for (const Entry& entry : kEntries) {
         QTest::mouseClick(Find<QLabel>(entry.label), Qt::LeftButton);
+        auto* box = Find<QLineEdit>(entry.box);
+        box->setText(QStringLiteral("-1"));
+        QTest::keyClick(box, Qt::Key_Return);
+        ASSERT_TRUE(box->property("rejected").toBool());
+        QTest::keyClick(box, Qt::Key_Escape);
+        EXPECT_FALSE(box->isVisible()) << entry.box;
+        EXPECT_FALSE(box->property("rejected").toBool()) << "the mark goes with the box";
+        EXPECT_TRUE(Find<QWidget>("ButtonsFrame")->isVisible());
+        EXPECT_EQ(Text(entry.label), QStringLiteral("5"));
     }
-    QTest::keyClick(Find<QLineEdit>("TendText"), Qt::Key_Return);
+    EXPECT_EQ(Text("ResultLb"), QStringLiteral("OK")) << "nothing was changed";
+    EXPECT_EQ(Text("NowDispLb"), QStringLiteral("Res")) << "Esc in a box stops no drawing";
+
+    // Opening the gamma0 box takes the focus from the T box, which closes.
+    QTest::mouseClick(Find<QLabel>("TendLb"), Qt::LeftButton);
+    Find<QLineEdit>("TendText")->setText(QStringLiteral("7"));
+    QTest::mouseClick(Find<QLabel>("Ganmalb"), Qt::LeftButton);
     EXPECT_FALSE(Find<QWidget>("TendText")->isVisible());
-    EXPECT_FALSE(Find<QWidget>("ButtonsFrame")->isVisible()) << "gamma0 is still being typed";
+    EXPECT_EQ(Text("TendLb"), QStringLiteral("5"));
+    EXPECT_FALSE(Find<QWidget>("ButtonsFrame")->isVisible()) << "gamma0 is being typed";
     QTest::keyClick(Find<QLineEdit>("GanmaText"), Qt::Key_Return);
     EXPECT_TRUE(Find<QWidget>("ButtonsFrame")->isVisible());
 }

@@ -1,8 +1,11 @@
 // The window's files: saving with the overwrite question, reading through
 // the wizard and its failures, and the calculator's program files.
+#include <QCoreApplication>
 #include <QFile>
 #include <QPlainTextEdit>
+#include <QTranslator>
 
+#include "calculator/qt_translations.h"
 #include "form_fixture.h"
 
 namespace lapdesk::testing {
@@ -105,9 +108,9 @@ TEST_F(FilesTest, AFileThatDoesNotFitTheAnswersReadsNothing) {
     const WisardAnswers answers;
     AnswerWisard(&answers);
     Click("ButtonDataRead");
-    EXPECT_EQ(statuses.back(), QStringLiteral("データ読込み失敗"));
-    EXPECT_TRUE(Find<QLabel>("StatusBar")->toolTip().contains(QStringLiteral("lines")))
-        << "the reason is at hand";
+    EXPECT_TRUE(SawStatus(QStringLiteral("データ読込み失敗")));
+    EXPECT_TRUE(statuses.back().startsWith(QStringLiteral("データ読込み失敗：")));
+    EXPECT_TRUE(Text("StatusBar").contains(QStringLiteral("131"))) << "the reason is shown";
     EXPECT_EQ(Text("DataSourceLb"), QStringLiteral("Non"));
 }
 
@@ -123,6 +126,40 @@ TEST_F(FilesTest, TheCalculatorsProgramIsReadAndSaved) {
     script->files = {PathOf("saved.Prg")};
     Action("MenueProgramWrite")->trigger();
     EXPECT_EQ(ReadBytes(folder / "saved.Prg"), "Return 1/(p+1)\r\nEnd\r\n");
+}
+
+}  // namespace
+}  // namespace lapdesk::testing
+
+namespace lapdesk::testing {
+namespace {
+
+TEST_F(FilesTest, DataDialogsChooseLdtAndStartWhereTheLastFileWas) {
+    const QString program = PathOf("ramp.Prg");
+    WriteBytes(folder / "ramp.Prg", "Return 1/p^2\r\nEnd\r\n");
+    script->files = {program};
+    Action("MenueProgramRead")->trigger();
+    script->files = {PathOf("ramp")};
+    RunProgram(kFirstOrder);
+    Click("ButtonResultWrite");
+    EXPECT_EQ(script->selectedFilters.last(), QStringLiteral("Data(*.Ldt)"));
+    EXPECT_EQ(script->initialPaths.last(), QString::fromStdString(folder.path().string()))
+        << "the folder the calculator's program came from";
+    EXPECT_TRUE(QFile::exists(PathOf("ramp.Ldt"))) << "the suffix is added";
+    AnswerWisard(nullptr);
+    Click("ButtonDataRead");
+    EXPECT_EQ(script->selectedFilters.last(), QStringLiteral("Data(*.Ldt)"));
+    EXPECT_EQ(script->initialPaths.last(), QString::fromStdString(folder.path().string()))
+        << "an open dialog starts in a folder, not on a file";
+}
+
+TEST_F(FilesTest, QtsOwnDialogTextsAreJapanese) {
+    QTranslator* translator = LoadQtTranslations(*QCoreApplication::instance());
+    ASSERT_NE(translator, nullptr) << "qt6-translations-l10n is installed by scripts/install-deps";
+    EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"),
+              QStringLiteral("キャンセル"));
+    QCoreApplication::removeTranslator(translator);
+    delete translator;
 }
 
 }  // namespace

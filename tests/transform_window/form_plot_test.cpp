@@ -41,7 +41,8 @@ TEST_F(PlotTest, EscStopsADrawingInProgress) {
     auto* list = Find<QListWidget>("WrdList");
     QListWidgetItem* n4096 = list->findItems(QStringLiteral("4096"), Qt::MatchExactly).front();
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(n4096).center());
-    QApplication::processEvents();
+    RunProgram(QStringLiteral("Return 1/(p+1)\nEnd"));
+    ASSERT_EQ(Text("DataSourceLb"), QStringLiteral("Math"));
     // Esc arrives while the drawing lets events run for the first time.
     QMetaObject::invokeMethod(
         form.get(), [this] { QTest::keyClick(form.get(), Qt::Key_Escape); }, Qt::QueuedConnection);
@@ -72,15 +73,55 @@ TEST_F(PlotTest, TheReadoutFollowsTheCursorAndIsCopiedOnRightClick) {
     EXPECT_EQ(QApplication::clipboard()->text(), floating->text());
 }
 
-TEST_F(PlotTest, TheReadoutOfDataConvertsTheIndexIntoTime) {
+TEST_F(PlotTest, TheReadoutOfDataNamesTheSampleIndex) {
     RunProgram(QStringLiteral("Return 1/(p+1)\nEnd"));
     Find<QWidget>("Frame3")->hide();
     Click("ButtonDrawLapData");
     ScrnPlot* scrn = Scrn();
     const QPoint at(scrn->xAxis->coordToPixel(128.0), scrn->yAxis->coordToPixel(0.0));
     QTest::mouseMove(scrn, at);
-    const double k = scrn->xAxis->pixelToCoord(at.x());
-    EXPECT_EQ(Text("PosX"), QString::fromStdString(ReadoutText("t= ", k * 5.0 / 256)));
+    EXPECT_EQ(Text("PosX"), QStringLiteral("t= 2.5 (k= 128)"));
+}
+
+TEST_F(PlotTest, TheReadoutFollowsAPanAndTheCopyIsOfTheCursorsPlace) {
+    RunProgram(QStringLiteral("Return 1/(p+1)\nEnd"));
+    Find<QWidget>("Frame3")->hide();
+    ScrnPlot* scrn = Scrn();
+    const QPoint start = scrn->axisRect()->rect().center();
+    const QPoint end = start - QPoint(120, 0);
+    QTest::mouseMove(scrn, start);
+    QTest::mousePress(scrn, Qt::LeftButton, {}, start);
+    QMouseEvent drag(QEvent::MouseMove, QPointF(end), QPointF(scrn->mapToGlobal(end)), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(scrn, &drag);
+    QTest::mouseRelease(scrn, Qt::LeftButton, {}, end);
+    QApplication::processEvents();  // the queued replot of the pan
+    const QString t =
+        QString::fromStdString(ReadoutText("t= ", scrn->xAxis->pixelToCoord(end.x())));
+    EXPECT_EQ(Text("PosX"), t) << "read with the axes after the pan";
+
+    QWheelEvent wheel(QPointF(end), QPointF(scrn->mapToGlobal(end)), QPoint(), QPoint(0, 120),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(scrn, &wheel);
+    QApplication::processEvents();
+    const QPoint elsewhere = end + QPoint(0, 40);
+    QTest::mouseClick(scrn, Qt::RightButton, {}, elsewhere);
+    const QString y =
+        QString::fromStdString(ReadoutText("y= ", scrn->yAxis->pixelToCoord(elsewhere.y())));
+    EXPECT_TRUE(QApplication::clipboard()->text().endsWith(y))
+        << QApplication::clipboard()->text().toStdString();
+}
+
+TEST_F(PlotTest, TheFloatingReadoutLeavesWithTheMouse) {
+    ScrnPlot* scrn = Scrn();
+    QTest::mouseMove(scrn, scrn->rect().center());
+    auto* floating = Find<QLabel>("FloatLb");
+    ASSERT_TRUE(floating->isVisible());
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(scrn, &leave);
+    EXPECT_FALSE(floating->isVisible());
+    scrn->replot();
+    EXPECT_FALSE(floating->isVisible()) << "a replot does not bring it back";
 }
 
 TEST_F(PlotTest, TheFloatingReadoutStaysInsideNearTheEdge) {

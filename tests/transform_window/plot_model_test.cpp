@@ -81,19 +81,20 @@ TEST(PlotModel, EmptyBoxSpansTheRecordAndOnePointOneEachWay) {
     EXPECT_DOUBLE_EQ(content.y.upper, 1.1);
 }
 
-TEST(PlotModel, ReadoutConvertsTheIndexOfDataIntoTime) {
+TEST(PlotModel, ReadoutOfDataNamesTheNearestSampleAndItsTime) {
     const struct {
         PlotView view;
         double x;
-        double t;
+        const char* text;
     } rows[] = {
-        {PlotView::Data, 128.0, 2.5},
-        {PlotView::Data, 0.0, 0.0},
-        {PlotView::Result, 2.5, 2.5},
-        {PlotView::None, 1.25, 1.25},
+        {PlotView::Data, 127.8, "t= 2.5 (k= 128)"},
+        {PlotView::Data, -3.0, "t= 0 (k= 0)"},
+        {PlotView::Data, 400.0, "t= 4.9805 (k= 255)"},
+        {PlotView::Result, 2.5, "t= 2.5"},
+        {PlotView::None, 1.25, "t= 1.25"},
     };
     for (const auto& row : rows) {
-        EXPECT_DOUBLE_EQ(ReadoutTime(row.view, row.x, 5.0, 256), row.t) << row.x;
+        EXPECT_EQ(ReadoutXText(row.view, row.x, 5.0, 256), row.text) << row.x;
     }
 }
 

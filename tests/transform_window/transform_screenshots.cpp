@@ -35,7 +35,7 @@ class FixedDialogs : public lapdesk::CalculatorDialogs {
         return QMessageBox::Ok;
     }
     QString ChooseFile(QWidget*, lapdesk::FileDialogKind, const QString&, const QString&,
-                       const QString&) override {
+                       const QString&, const QString&) override {
         return file_;
     }
 

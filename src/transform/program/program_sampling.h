@@ -19,7 +19,12 @@ bool ASetLapOpValur(Interpreter& session, const TransformDriver& driver);
 
 // Makes the data from the program and transforms it. The status texts go to
 // the driver's status sink; progress, the stop request and messages go
-// through the session's view. True when the data were made and transformed.
+// through the session's view. A failure names the point k and p where it
+// happened and the interpreter's message (the fault and its line).
+Outcome MakeDataFromProgram(TransformDriver& driver, Interpreter& session);
+
+// The same, as the calculator asks for it: true when the data were made and
+// transformed.
 bool TesmorDataSet(TransformDriver& driver, Interpreter& session);
 
 }  // namespace lapdesk

@@ -12,6 +12,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QTextDocument>
 
 #include "calculator/frm_cpl_cal.h"
 #include "transform/ldt_file.h"
@@ -26,6 +27,7 @@ namespace {
 
 const QString kWritingResultText =
     QStringLiteral("結果のテキストデータ作成中 もう一寸待ってね！！");
+const QString kInversionFailed = QStringLiteral("逆変換失敗");
 
 QString FromStd(const std::string& text) {
     return QString::fromStdString(text);
@@ -57,14 +59,15 @@ bool TesmorForm::TesmorDataSet() {
     if (busy_) return false;
     SetBusy(true);
     accuracy_->Forget();
-    const bool made = lapdesk::TesmorDataSet(driver_, calculator_->interpreter());
+    const Outcome made = MakeDataFromProgram(driver_, calculator_->interpreter());
     SetBusy(false);
-    if (made) {
+    if (made.ok) {
         ShowNewResult();
         RunAccuracy();
+    } else {
+        ShowFailure(made.reason);
     }
-    ShowStateLabels();
-    return made;
+    return made.ok;
 }
 
 void TesmorForm::ZOrder() {
@@ -81,10 +84,14 @@ void TesmorForm::SetStatus(const QString& text) {
     emit statusChanged(text);
 }
 
-// The reason behind a failure status, for the curious, on the status line's
-// tooltip.
+// A failure stays on the status line: the status the work ended with (or
+// "逆変換失敗" when the inversion cleared it) and the reason in words, also on
+// the tooltip when the line is too short for it.
 void TesmorForm::ShowFailure(const std::string& reason) {
-    statusBar_->setToolTip(FromStd(reason));
+    const QString ended = statusBar_->text().isEmpty() ? kInversionFailed : statusBar_->text();
+    const QString text = reason.empty() ? ended : ended + QStringLiteral("：") + FromStd(reason);
+    SetStatus(text);
+    statusBar_->setToolTip(text);
 }
 
 // The labels show the driver's parameters and states; the states enable the
@@ -102,6 +109,23 @@ void TesmorForm::ShowStateLabels() {
     buttonResultWrite_->setEnabled(data);
     buttonDrawResult_->setEnabled(result);
     menueWriteResult_->setEnabled(result && !busy_);
+    DropStaleDrawing();
+}
+
+// The plot, its marker and the result table show only what belongs to the
+// present data and parameters: a failed or started run, a new N, T or gamma0
+// take away the result drawn for the old ones.
+void TesmorForm::DropStaleDrawing() {
+    const bool data = driver_.DataSourceLb() != kLabelNon;
+    const bool result = driver_.ResultLb() == kLabelOk;
+    const PlotView drawn = scrn_->view();
+    if ((drawn == PlotView::Result && !result) || (drawn == PlotView::Data && !data)) {
+        ButtonClearScreen_Click();
+    }
+    if (!result && !text1_->document()->isEmpty()) {
+        text1_->clear();
+        frame3_->hide();
+    }
 }
 
 // While the program makes the data, only the calculator's stop and the end
@@ -129,10 +153,10 @@ void TesmorForm::OpenCalculator() {
             calculator_->move(beside);
         }
     }
-    calculator_->ShowProgramMode();
     calculator_->show();
     calculator_->raise();
     calculator_->activateWindow();
+    calculator_->ShowProgramMode();
 }
 
 // "実行": the calculator's own data command, so that both windows know a
@@ -178,7 +202,13 @@ void TesmorForm::ClearReadout() {
     floatLb_->hide();
 }
 
+// Without data there is nothing to draw: no zeros that look like F = 0.
 void TesmorForm::ButtonDrawLapData_Click() {
+    if (driver_.DataSourceLb() == kLabelNon) {
+        SetStatus(
+            QStringLiteral("表示するデータが有りません（実行又はデータ読込で作成してください）"));
+        return;
+    }
     DrawContent(kNowDispData, false);
 }
 

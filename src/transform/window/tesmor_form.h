@@ -6,6 +6,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointF>
 #include <QString>
 #include <memory>
 #include <string_view>
@@ -116,13 +117,18 @@ class TesmorForm : public QMainWindow, public TransformPartner {
     void ShowNewResult();
     void ShowFailure(const std::string& reason);
     void ShowStateLabels();
+    void DropStaleDrawing();
     void SetBusy(bool busy);
     void DrawContent(std::string_view name, bool result);
     void ClearReadout();
+    void ShowReadout();
+    void HideReadoutLabel();
 
     // Parameter entry (tesmor_form_entry.cpp).
     void OpenEntryBox(QLabel* label, QLineEdit* box);
     void CloseEntryBox(QLabel* label, QLineEdit* box);
+    void MarkRejected(QLineEdit* box, bool rejected);
+    bool EntryBoxEvent(QLineEdit* box, QEvent* event);
 
     // Files (tesmor_form_files.cpp).
     QString ChooseDataFile(FileDialogKind kind, const QString& title);
@@ -147,6 +153,8 @@ class TesmorForm : public QMainWindow, public TransformPartner {
     QLabel* posX_ = nullptr;
     QLabel* posY_ = nullptr;
     QLabel* nowDispLb_ = nullptr;
+    QPointF cursor_;  // last cursor position over the plot
+    bool cursorInside_ = false;
 
     // Result frame.
     DraggableFrame* frame3_ = nullptr;

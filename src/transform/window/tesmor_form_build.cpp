@@ -128,6 +128,7 @@ QWidget* TesmorForm::BuildPlotArea() {
     scrn_->installEventFilter(this);
     connect(scrn_, &QCustomPlot::mouseMove, this, &TesmorForm::Scrn_MouseMove);
     connect(scrn_, &QCustomPlot::mouseRelease, this, &TesmorForm::Scrn_MouseUp);
+    connect(scrn_, &QCustomPlot::afterReplot, this, &TesmorForm::ShowReadout);
     floatLb_ = MakeLabel("FloatLb", QString());
     floatLb_->setParent(scrn_);
     floatLb_->setAutoFillBackground(true);
@@ -139,6 +140,7 @@ QWidget* TesmorForm::BuildPlotArea() {
     floatLb_->setAttribute(Qt::WA_TransparentForMouseEvents);
     floatLb_->hide();
     BuildResultFrame();
+    frame3_->installEventFilter(this);
 
     posX_ = MakeLabel("PosX", QStringLiteral("t= "));
     posY_ = MakeLabel("PosY", QStringLiteral("y= "));
@@ -258,6 +260,10 @@ QWidget* TesmorForm::BuildConditionsFrame() {
     ganmaText_ = MakeEntryBox("GanmaText");
     connect(tendText_, &QLineEdit::returnPressed, this, &TesmorForm::TendText_Enter);
     connect(ganmaText_, &QLineEdit::returnPressed, this, &TesmorForm::GanmaText_Enter);
+    for (QLineEdit* box : {tendText_, ganmaText_}) {
+        box->installEventFilter(this);
+        connect(box, &QLineEdit::textEdited, this, [this, box] { MarkRejected(box, false); });
+    }
     haningCheck_ = Named(new QCheckBox(QStringLiteral("H.W.")), "HaningCheck");
     haningCheck_->setToolTip(QStringLiteral("ハニングウインドゥ使用"));
     connect(haningCheck_, &QCheckBox::clicked, this, &TesmorForm::HaningCheck_Click);

@@ -27,8 +27,8 @@ QString WithDataSuffix(const QString& path) {
 }  // namespace
 
 QString TesmorForm::ChooseDataFile(FileDialogKind kind, const QString& title) {
-    return dialogs_->ChooseFile(this, kind, title, fileName_,
-                                DialogFilter(QString::fromLatin1(kFileFilter)));
+    return calculator_->FileNames().ChooseFile(this, kind, title, fileName_,
+                                               QStringLiteral("Data(*.Ldt)"));
 }
 
 // The file, then the wizard's answers (parameter line, first data line,
@@ -64,6 +64,13 @@ void TesmorForm::ReadLapData() {
 // program; an existing file is replaced only when the user says OK.
 void TesmorForm::WriteTransformFile() {
     SetStatus(QString());
+    // Refused before a name is asked for: the y column would not belong to
+    // the samples and parameters beside it.
+    if (const Outcome allowed = CanWriteTransformFile(driver_); !allowed.ok) {
+        SetStatus(kWriteFailed);
+        ShowFailure(allowed.reason);
+        return;
+    }
     QString path = ChooseDataFile(FileDialogKind::Save, QStringLiteral("データファイルを保存"));
     if (!path.isEmpty()) path = WithDataSuffix(path);
     if (!path.isEmpty() && QFileInfo::exists(path) &&

@@ -69,9 +69,11 @@ PlotContent EmptyContent(double tEnd) {
     return content;
 }
 
-double ReadoutTime(PlotView view, double x, double tEnd, int n) {
-    if (view == PlotView::Data && n != 0) return x * tEnd / n;
-    return x;
+std::string ReadoutXText(PlotView view, double x, double tEnd, int n) {
+    if (view != PlotView::Data || n <= 0 || !std::isfinite(x)) return ReadoutText("t= ", x);
+    const long k = std::clamp(std::lround(x), 0L, static_cast<long>(n) - 1);
+    return ReadoutText("t= ", static_cast<double>(k) * tEnd / n) + " (k= " + std::to_string(k) +
+           ")";
 }
 
 std::string ReadoutText(std::string_view prefix, double value) {

@@ -53,9 +53,10 @@ PlotContent ResultContent(const TransformDriver& driver);
 // The empty box: t from 0 to T, y from -1.1 to 1.1.
 PlotContent EmptyContent(double tEnd);
 
-// The t under the cursor: the data are drawn against the index k, so x
-// there converts by T/N.
-double ReadoutTime(PlotView view, double x, double tEnd, int n);
+// The readout of the cursor's x: "t= 1.25" over the result; over the data,
+// which are drawn against their index, the sample k nearest the cursor and
+// its t = k*T/N, as "t= 0.3125 (k= 16)".
+std::string ReadoutXText(PlotView view, double x, double tEnd, int n);
 
 // "t= 1.2346": the prefix and the value with 5 significant digits.
 std::string ReadoutText(std::string_view prefix, double value);

@@ -59,8 +59,8 @@ void ScrnPlot::SetAxes(const PlotContent& content) {
     xAxis->setRange(content.x.lower, content.x.upper);
     yAxis->setRange(content.y.lower, content.y.upper);
     const bool data = content.view == PlotView::Data;
-    xAxis->setLabel(data ? QStringLiteral("k") : QStringLiteral("t"));
-    yAxis->setLabel(data ? QStringLiteral("F(s_k)·N/T·w_k") : QStringLiteral("f(t)"));
+    xAxis->setLabel(data ? QStringLiteral("標本番号 k") : QStringLiteral("t"));
+    yAxis->setLabel(data ? QStringLiteral("F(sₖ)·wₖ·N/T") : QStringLiteral("f(t)"));
 }
 
 // The samples as points, the result as a line; a dashed mark where the
@@ -85,6 +85,16 @@ void ScrnPlot::AddCurves(const PlotContent& content) {
     mark->point1->setCoords(content.reliableUntil, 0.0);
     mark->point2->setCoords(content.reliableUntil, 1.0);
     mark->setPen(QPen(QColor(0x99, 0x99, 0x99), 1, Qt::DashLine));
+    // What the mark means, at its top.
+    auto* note = new QCPItemText(this);
+    note->setObjectName(QStringLiteral("ReliableMarkNote"));
+    note->position->setTypeX(QCPItemPosition::ptPlotCoords);
+    note->position->setTypeY(QCPItemPosition::ptAxisRectRatio);
+    note->position->setCoords(content.reliableUntil, 0.0);
+    note->setPositionAlignment(Qt::AlignLeft | Qt::AlignTop);
+    note->setPadding(QMargins(4, 4, 4, 4));
+    note->setColor(QColor(0x66, 0x66, 0x66));
+    note->setText(QStringLiteral("0.8T: ここから先は誤差が大きく，\n縦軸の目盛に含めません"));
 }
 
 bool ScrnPlot::Draw(const PlotContent& content, const DrawControl& control) {
