@@ -1,9 +1,19 @@
 #!/usr/bin/env bash
 # Sets everything up, builds the Debug build with AddressSanitizer and
-# UndefinedBehaviorSanitizer, and runs every test through CTest.
+# UndefinedBehaviorSanitizer, builds the fuzz targets and runs each over its
+# seeds and for a short while (FUZZ_SECONDS, 60 by default), so that a
+# regression in the parsers fails, and runs every test through CTest.
 set -euo pipefail
 cd "$(dirname "$0")"
 ./scripts/install-deps
 cmake --preset asan >/dev/null
 cmake --build --preset asan
+for target in immediate_line program data_file; do
+  if ! ./scripts/fuzz "$target" "${FUZZ_SECONDS:-60}" >"build/fuzz-$target.log" 2>&1; then
+    tail -n 60 "build/fuzz-$target.log"
+    echo "fuzz: $target found a fault (input in build/fuzz/findings)" >&2
+    exit 1
+  fi
+  grep -E '^stat::number_of_executed_units' "build/fuzz-$target.log" | sed "s/^/fuzz $target: /"
+done
 ctest --preset asan -j2

@@ -9,8 +9,16 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   target_compile_options(lapdesk_warnings INTERFACE -Wno-restrict)
 endif()
 
-if(LAPDESK_SANITIZE)
+if(LAPDESK_FUZZ)
+  # Every layer is instrumented for coverage; only the fuzz targets link the
+  # fuzzer's own main.
   target_compile_options(lapdesk_warnings INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
-  target_link_options(lapdesk_warnings INTERFACE -fsanitize=address,undefined)
+    -fsanitize=fuzzer-no-link,address,undefined,float-cast-overflow
+    -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(lapdesk_warnings INTERFACE -fsanitize=address,undefined,float-cast-overflow)
+elseif(LAPDESK_SANITIZE)
+  target_compile_options(lapdesk_warnings INTERFACE
+    -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=undefined,float-cast-overflow
+    -fno-omit-frame-pointer)
+  target_link_options(lapdesk_warnings INTERFACE -fsanitize=address,undefined,float-cast-overflow)
 endif()

@@ -13,7 +13,6 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QVBoxLayout>
-#include <cmath>
 
 #include "calculator/code_editor.h"
 #include "calculator/frm_cpl_cal.h"
@@ -362,7 +361,7 @@ void FrmCplCal::BuildOptionMenu() {
         const char* name;
         const char* text;
         double unit;
-    } units[] = {{"MenueRadian", "ラジアン", 1.0}, {"MenueDegree", "度", std::atan(1.0) / 45.0}};
+    } units[] = {{"MenueRadian", "ラジアン", 1.0}, {"MenueDegree", "度", kDegreeUnit}};
     for (const auto& u : units) {
         QAction* action = MakeAction(QString::fromLatin1(u.name), QString::fromUtf8(u.text), angle);
         action->setCheckable(true);

@@ -28,7 +28,7 @@ bool RunLine(std::string line, Interpreter& session, ConsoleView& view) {
     if (!result.ok) {
         std::cout << "Error\n";
         const std::string& reason = session.ImmediatePage().ErrorText();
-        std::cerr << line << " : "
+        std::cerr << QuotedInput(line) << " : "
                   << (reason.empty() ? "式が正しくありません" : ForTerminal(reason)) << '\n';
         return false;
     }

@@ -28,11 +28,24 @@ ConsoleView::~ConsoleView() {
     std::signal(SIGINT, SIG_DFL);
 }
 
-std::string ForTerminal(std::string text) {
-    for (std::size_t at = text.find("\r\n"); at != std::string::npos; at = text.find("\r\n", at)) {
-        text.replace(at, 2, "\n");
+std::string QuotedInput(std::string_view text) {
+    constexpr std::size_t kReadable = 120;  // bytes
+    if (text.size() <= kReadable) return std::string(text);
+    std::size_t cut = kReadable;
+    while (cut > 0 && (static_cast<unsigned char>(text[cut]) & 0xC0) == 0x80)
+        --cut;  // not inside a UTF-8 sequence
+    return std::string(text.substr(0, cut)) + "…(" + std::to_string(text.size()) + "バイト)";
+}
+
+std::string ForTerminal(std::string_view text) {
+    std::string out;
+    for (;;) {
+        const std::size_t end = text.find("\r\n");
+        out += QuotedInput(text.substr(0, end));
+        if (end == std::string_view::npos) return out;
+        out += '\n';
+        text.remove_prefix(end + 2);
     }
-    return text;
 }
 
 void ConsoleView::Errmessage(const std::string& message) {

@@ -47,7 +47,12 @@ class ConsoleView : public InterpreterView {
     std::string kai_;
 };
 
-// Message text for a terminal: the interpreter's CR LF becomes a newline.
-std::string ForTerminal(std::string text);
+// Message text for a terminal: the interpreter's CR LF becomes a newline,
+// and a line longer than a screen (a quoted statement or input of thousands
+// of characters) is cut to a readable prefix.
+std::string ForTerminal(std::string_view text);
+
+// The user's input as a message quotes it: at most a readable prefix.
+std::string QuotedInput(std::string_view text);
 
 }  // namespace lapdesk::cli

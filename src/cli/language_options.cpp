@@ -1,7 +1,6 @@
 #include "language_options.h"
 
 #include <CLI/CLI.hpp>
-#include <cmath>
 
 #include "interp/interpreter.h"
 #include "values/complex.h"
@@ -16,7 +15,7 @@ void LanguageOptions::AddTo(CLI::App& command) {
 
 void LanguageOptions::ApplyTo(Interpreter& session) const {
     session.SetCaseSensitive(!ignoreCase);
-    AngleUnit = degrees ? 4.0 * std::atan(1.0) / 180.0 : 1.0;
+    AngleUnit = degrees ? kDegreeUnit : 1.0;
 }
 
 }  // namespace lapdesk::cli

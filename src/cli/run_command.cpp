@@ -34,7 +34,8 @@ int RunFile(const RunOptions& options) {
         double re = 0.0;
         double im = 0.0;
         if (!session.ImmediatePage().AImidateStatement(let, re, im)) {
-            std::cerr << let << " : " << ForTerminal(session.ImmediatePage().ErrorText()) << '\n';
+            std::cerr << QuotedInput(let) << " : "
+                      << ForTerminal(session.ImmediatePage().ErrorText()) << '\n';
             return 1;
         }
     }

@@ -22,6 +22,47 @@ constexpr std::string_view kBrackets = "括弧が対応していません";
 
 }  // namespace
 
+// Makes `memo` the one that argument evaluations of this primary record into
+// and read from, for as long as the primary is being tried.
+class Evaluator::MemoScope {
+  public:
+    MemoScope(Evaluator& evaluator, ArgumentMemo& memo)
+        : evaluator_(evaluator), outer_(evaluator.memo_) {
+        evaluator.memo_ = &memo;
+    }
+    ~MemoScope() { evaluator_.memo_ = outer_; }
+    MemoScope(const MemoScope&) = delete;
+    MemoScope& operator=(const MemoScope&) = delete;
+
+  private:
+    Evaluator& evaluator_;
+    ArgumentMemo* outer_;
+};
+
+const Evaluator::ArgumentMemo::Entry* Evaluator::ArgumentMemo::Find(std::string_view text) const {
+    for (const Entry& entry : entries) {
+        if (entry.text == text) return &entry;
+    }
+    return nullptr;
+}
+
+bool Evaluator::EvalArgument(std::string_view text, Complex& value) {
+    text = Trim(text);
+    // Read before evaluating: a nested primary installs its own memo and
+    // restores this one when it is done.
+    ArgumentMemo* memo = memo_;
+    if (memo != nullptr) {
+        if (const ArgumentMemo::Entry* known = memo->Find(text)) {
+            if (known->ok) value = known->value;
+            return known->ok;
+        }
+    }
+    std::string_view rest = text;
+    const bool ok = EvalSum(rest, value);
+    if (memo != nullptr) memo->entries.push_back({std::string(text), ok, ok ? value : Complex{}});
+    return ok;
+}
+
 bool Evaluator::Fail(std::string reason) {
     if (failure_.empty()) failure_ = std::move(reason);
     return false;
@@ -117,6 +158,9 @@ bool Evaluator::EvalScannedFactor(const SumScan& scan, std::size_t factor, Compl
 // primary -> function call | matrix call | user call | literal | name | ( sum )
 bool Evaluator::EvalScannedPrimary(const PrimaryScan& scan, Complex& value) {
     if (scan.text.empty()) return false;
+    scope_.PollStop();
+    ArgumentMemo memo;
+    MemoScope memoScope(*this, memo);
     if (scan.scalarCall) return EvalScalarFunction(*scan.scalarCall, value);
     if (scan.matrixCall) return EvalMatrixFunction(*scan.matrixCall, value);
     if (scan.mayCallUser && scope_.CallUserFunction(*this, scan.text, value)) return true;

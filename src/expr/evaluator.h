@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "expr/expression_scan.h"
 #include "expr/name_scope.h"
@@ -31,12 +32,31 @@ class Evaluator {
 
     NameScope& scope() { return scope_; }
 
+    // Evaluates one argument of a user-function call or one subscript of an
+    // array element. A primary Name(a, b) is tried as a call first and then,
+    // if the call fails, as an array element with the same texts: the values
+    // (or failures) of the call's arguments are reused for the subscripts, so
+    // that nested primaries cost linear, not exponential, work.
+    bool EvalArgument(std::string_view text, Complex& value);
+
     // Why the last evaluation failed, for the user's message; empty when the
     // reason is only "not a valid expression".
     const std::string& failure() const { return failure_; }
     void ClearFailure() { failure_.clear(); }
 
   private:
+    // What the arguments of the primary being tried evaluated to.
+    struct ArgumentMemo {
+        struct Entry {
+            std::string text;  // a copy: the call's argument texts do not outlive it
+            bool ok;
+            Complex value;
+        };
+        std::vector<Entry> entries;
+        const Entry* Find(std::string_view text) const;
+    };
+    class MemoScope;
+
     bool Fail(std::string reason);
     // The same levels on a text's scan (expression_scan.h).
     bool EvalScannedSum(const SumScan& scan, Complex& value);
@@ -49,6 +69,7 @@ class Evaluator {
 
     NameScope& scope_;
     std::string failure_;
+    ArgumentMemo* memo_ = nullptr;  // of the innermost primary Name(...) being tried
 };
 
 // The outcome of evaluating one whole expression with faults trapped.

@@ -12,7 +12,9 @@ namespace lapdesk {
 // arrays. Scalar results ("MatI1(", "MatJ2(", "MatI3(") go into `scalar`,
 // array results into `array`. False on a wrong argument count, shapes that do
 // not fit, or a fault inside the routine.
+// `poll` is handed to the routines that take O(n^3) work.
 bool ApplyMatrixFunction(std::size_t index, std::span<const ComplexArray* const> args,
-                         Complex& scalar, std::optional<ComplexArray>& array);
+                         Complex& scalar, std::optional<ComplexArray>& array,
+                         const StopPoll& poll = {});
 
 }  // namespace lapdesk

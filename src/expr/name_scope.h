@@ -31,6 +31,10 @@ class NameScope {
     // an array result is kept by the scope for the assignment that called it.
     virtual bool CallMatrixFunction(std::size_t index, std::span<const std::string_view> arguments,
                                     Complex& value) = 0;
+
+    // Called at every primary, so that a stop request can end the work of
+    // one long expression; a scope that honours one raises its own signal.
+    virtual void PollStop() {}
 };
 
 }  // namespace lapdesk

@@ -6,10 +6,17 @@
 #include "expr/text_scan.h"
 #include "expr/vocabulary.h"
 #include "interp/interpreter.h"
+#include "interp/run_limits.h"
 #include "interp/text_helpers.h"
 #include "values/builtins.h"
 
 namespace lapdesk {
+
+namespace {
+
+constexpr std::string_view kStopped = "中断しました";
+
+}  // namespace
 
 ClsCode::ClsCode(Interpreter& session) : session_(session) {}
 
@@ -73,6 +80,9 @@ bool ClsCode::ACalcu(std::string_view text, double& re, double& im) {
     } catch (const RuntimeFault& fault) {
         errorText_ = fault.description();
         return false;
+    } catch (const StopRequest&) {
+        errorText_ = kStopped;
+        return false;
     }
     re = value.Re;
     im = value.Im;
@@ -114,6 +124,9 @@ void ClsCode::ACalcuWithMemoryStore(std::string_view expression, std::string_vie
     } catch (const RuntimeFault& fault) {
         errorText_ = fault.description();
         ok = false;
+    } catch (const StopRequest&) {
+        errorText_ = kStopped;
+        ok = false;
     }
 }
 
@@ -126,7 +139,12 @@ bool ClsCode::AImidateStatement(std::string_view text, double& re, double& im) {
         std::vector<std::string_view> items;
         const std::string_view rest = blank == std::string_view::npos ? "" : text.substr(blank);
         if (!SplitTopLevel(rest, ',', items)) return false;
-        return AStateMentDimension(items);
+        try {
+            return AStateMentDimension(items);
+        } catch (const StopRequest&) {
+            errorText_ = kStopped;
+            return false;
+        }
     }
     const std::size_t equals = FindTopLevel(text, '=');
     if (equals == std::string_view::npos) return false;

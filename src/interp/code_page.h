@@ -98,6 +98,7 @@ class ClsCode : public NameScope {
     bool CallUserFunction(Evaluator& evaluator, std::string_view call, Complex& value) override;
     bool CallMatrixFunction(std::size_t index, std::span<const std::string_view> arguments,
                             Complex& value) override;
+    void PollStop() override;
 
   private:
     enum class Flow { Normal, End, Fail };  // End: the page finished early (End, Return)
@@ -109,6 +110,9 @@ class ClsCode : public NameScope {
                                 std::int16_t nj);
     bool DeclareItem(std::string_view item);
     bool ReportReserved(std::string_view name);
+    // Lets window events run inside a program run and raises StopRequest
+    // when the user has asked to stop.
+    void CheckStop();
     // The variable a lookup refers to, and the parameter slot it went through.
     MemoryRec* Referent(const Found& found, CallArgument** slot);
     bool EvalSubscript(Evaluator& evaluator, std::string_view text, std::int16_t& index);
@@ -145,7 +149,7 @@ class ClsCode : public NameScope {
     // Functions and calls (code_page_calls.cpp).
     bool AnalyseCall(std::string_view text, std::int16_t& entry);
     bool BindArgument(std::string_view text, CallArgument& argument);
-    bool RunCall(CallEntry& entry, Complex& result);
+    bool RunCall(Evaluator& evaluator, CallEntry& entry, Complex& result);
     bool PrepareArgument(Evaluator& evaluator, CallArgument& argument, std::string& reason);
 
     Interpreter& session_;
@@ -162,6 +166,11 @@ class ClsCode : public NameScope {
     std::vector<SelectBlock> selects_;
     std::vector<StatementCode> statements_;
     std::int16_t currentLine_ = 0;
+    // Frames of this page that are running, and whether its analysis is in
+    // progress. A running page keeps the tables its frames jump through: it
+    // is analysed again only once none of them is left.
+    int runningFrames_ = 0;
+    bool analysing_ = false;
     std::int16_t innermostFor_ = -1;
     std::int16_t innermostDo_ = -1;
     std::int16_t errorLine_ = 0;

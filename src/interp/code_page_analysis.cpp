@@ -9,6 +9,7 @@
 #include "expr/vocabulary.h"
 #include "interp/code_page.h"
 #include "interp/interpreter.h"
+#include "interp/run_limits.h"
 #include "interp/text_helpers.h"
 #include "values/fault.h"
 
@@ -59,6 +60,18 @@ bool ClsCode::EndsPage(std::int16_t i) const {
 }
 
 bool ClsCode::APc01CodeAnalize() {
+    // A Dim subscript of this page may call a function that calls the page
+    // back; its tables are half built then, and a running page's tables are
+    // in use, so neither is analysed (or run) from there.
+    if (analysing_ || runningFrames_ > 0) {
+        session_.view().Errmessage(pageName_ + ": 解析が終わる前に呼び出されました");
+        return false;
+    }
+    analysing_ = true;
+    struct AnalysisEnds {
+        bool& flag;
+        ~AnalysisEnds() { flag = false; }
+    } analysisEnds{analysing_};
     calls_.clear();
     fors_.clear();
     dos_.clear();
@@ -86,6 +99,8 @@ bool ClsCode::APc01CodeAnalize() {
         }
     } catch (const RuntimeFault& fault) {
         Fail(fault.description());
+    } catch (const StopRequest&) {
+        return false;  // stopped while a Dim subscript ran: no message
     }
     if (ok) return true;
     std::string message = pageName_ + ": " + std::to_string(errorLine_ + 1) + "行目解析エラー";

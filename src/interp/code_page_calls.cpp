@@ -127,8 +127,7 @@ bool ClsCode::BindArgument(std::string_view text, CallArgument& argument) {
 // refers to.
 bool ClsCode::PrepareArgument(Evaluator& evaluator, CallArgument& argument, std::string& reason) {
     if (argument.Kind == "S") {
-        std::string_view text = argument.Text;
-        if (evaluator.EvalSum(text, argument.Value)) return true;
+        if (evaluator.EvalArgument(argument.Text, argument.Value)) return true;
         reason = "行目：引数式 " + argument.Text + " 実行エラー";
         return false;
     }
@@ -175,15 +174,18 @@ bool ClsCode::PrepareArgument(Evaluator& evaluator, CallArgument& argument, std:
     return true;
 }
 
-bool ClsCode::RunCall(CallEntry& entry, Complex& result) {
+bool ClsCode::RunCall(Evaluator& evaluator, CallEntry& entry, Complex& result) {
     if (entry.Target->NumofArg() != entry.ArgumentCount) {
         errorText_ = "引数の数が違います";
         return false;
     }
-    Evaluator evaluator(*this);
     std::vector<CallArgument> prepared = entry.Arguments;
     for (CallArgument& argument : prepared) {
-        if (!PrepareArgument(evaluator, argument, errorText_)) return false;
+        std::string reason;
+        if (PrepareArgument(evaluator, argument, reason)) continue;
+        // A nested call whose argument failed first named the real culprit.
+        if (errorText_.empty()) errorText_ = std::move(reason);
+        return false;
     }
     for (std::size_t k = 0; k < prepared.size(); ++k) {
         entry.Target->ACopyToArgment(static_cast<std::int16_t>(k), prepared[k]);
@@ -195,7 +197,7 @@ bool ClsCode::RunCall(CallEntry& entry, Complex& result) {
     return true;
 }
 
-bool ClsCode::CallUserFunction(Evaluator&, std::string_view call, Complex& value) {
+bool ClsCode::CallUserFunction(Evaluator& evaluator, std::string_view call, Complex& value) {
     std::string_view name;
     std::vector<std::string_view> args;
     if (!ParseCall(call, name, args)) return false;
@@ -207,7 +209,7 @@ bool ClsCode::CallUserFunction(Evaluator&, std::string_view call, Complex& value
         if (!BindArgument(arg, argument)) return false;
         entry.Arguments.push_back(std::move(argument));
     }
-    return RunCall(entry, value);
+    return RunCall(evaluator, entry, value);
 }
 
 }  // namespace lapdesk

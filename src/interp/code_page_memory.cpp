@@ -1,7 +1,6 @@
 // A page's variables: lookup across the page, its parameters and the globals;
 // declaration, erasing and direct element access.
 #include <algorithm>
-#include <cmath>
 
 #include "expr/evaluator.h"
 #include "expr/matrix_call.h"
@@ -9,6 +8,7 @@
 #include "expr/vocabulary.h"
 #include "interp/code_page.h"
 #include "interp/interpreter.h"
+#include "interp/run_limits.h"
 #include "interp/text_helpers.h"
 
 namespace lapdesk {
@@ -165,8 +165,8 @@ bool ClsCode::ReportReserved(std::string_view name) {
 bool ClsCode::EvalSubscript(Evaluator& evaluator, std::string_view text, std::int16_t& index) {
     if (Trim(text).empty()) text = "0";
     Complex value;
-    if (!evaluator.EvalSum(text, value)) return false;
-    index = ToInt16(static_cast<long long>(std::nearbyint(value.Re)));
+    if (!evaluator.EvalArgument(text, value)) return false;
+    index = RoundToInt16(value.Re);
     return true;
 }
 
@@ -223,9 +223,20 @@ bool ClsCode::CallMatrixFunction(std::size_t index, std::span<const std::string_
     for (const ComplexArray& array : arrays)
         args.push_back(&array);
     std::optional<ComplexArray> array;
-    if (!ApplyMatrixFunction(index, args, value, array)) return false;
+    if (!ApplyMatrixFunction(index, args, value, array, [this] { CheckStop(); })) return false;
     if (array) arrayResult_ = std::move(array);
     return true;
+}
+
+void ClsCode::PollStop() {
+    if (session_.PollDue()) CheckStop();
+}
+
+void ClsCode::CheckStop() {
+    InterpreterView& view = session_.view();
+    // Events run only inside a program run, where the window expects them.
+    if (session_.Busy()) view.ProcessEvents();
+    if (view.StopRequested()) throw StopRequest{};
 }
 
 bool ClsCode::AStateMentDimension(std::span<const std::string_view> items) {

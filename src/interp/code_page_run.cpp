@@ -42,6 +42,18 @@ class CallLevel {
 
 // True when the expression is one matrix function call as a whole, whose
 // array result is then stored into the target.
+// Counts the frames of a page that are running, for as long as one runs.
+class RunningFrame {
+  public:
+    explicit RunningFrame(int& frames) : frames_(++frames) {}
+    ~RunningFrame() { --frames_; }
+    RunningFrame(const RunningFrame&) = delete;
+    RunningFrame& operator=(const RunningFrame&) = delete;
+
+  private:
+    int& frames_;
+};
+
 bool IsWholeMatrixCall(std::string_view expression, std::size_t& row) {
     expression = Trim(expression);
     const auto found = FindMatrixFunction(expression);
@@ -62,10 +74,16 @@ bool ClsCode::APc02CodeExecute(double& re, double& im) {
     Flow flow = Flow::Fail;
     try {
         if (!level.ok()) throw CallsTooDeep{};
-        if (!analized_ && !APc01CodeAnalize()) return false;
+        // A page already running keeps the tables its frames use, even when
+        // a new global has cleared its flag meanwhile; it is analysed again
+        // at a call after they have all finished.
+        if (!analized_ && runningFrames_ == 0 && !APc01CodeAnalize()) return false;
+        RunningFrame frame(runningFrames_);
         session_.view().ShowPageIndex(pageIndex_);
         std::int16_t line = 0;
         flow = RunLoop(line, 0, Sub16(LineNum(), 1));
+    } catch (const StopRequest&) {
+        return false;  // every level returns quietly: the stop request stays set
     } catch (const RuntimeFault& error) {
         fault = error.description();
     } catch (const CallsTooDeep&) {
@@ -113,7 +131,7 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
             return Flow::End;
         case kw::Call: {
             Complex ignored;
-            ok = RunCall(calls_[index], ignored);
+            ok = RunCall(evaluator, calls_[index], ignored);
             break;
         }
         case kw::For:
@@ -155,7 +173,6 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
             // The value starts at the eighth character, after "Return ".
             std::string_view text =
                 current.Text.size() > 7 ? std::string_view(current.Text).substr(7) : "";
-            if (Trim(text).empty()) return Flow::End;
             text = TrimLeft(text);
             if (evaluator.EvalSum(text, valueArea_)) return Flow::End;
             ok = false;

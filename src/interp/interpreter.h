@@ -69,6 +69,10 @@ class Interpreter {
     // pages away from under the first.
     bool Busy() const { return busy_ || Running(); }
 
+    // True once every 1024 calls: how often evaluation looks at the stop
+    // request and lets window events run.
+    bool PollDue() { return (++pollCount_ & 1023u) == 0; }
+
   private:
     bool RunProgramOnce(double& re, double& im, bool eraseGlobals, bool run);
     void EraseAllMemories();
@@ -83,6 +87,7 @@ class Interpreter {
     bool programAnalysed_ = false;
     int callDepth_ = 0;
     bool busy_ = false;
+    unsigned pollCount_ = 0;
 };
 
 }  // namespace lapdesk

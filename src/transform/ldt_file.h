@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "transform/outcome.h"
 #include "transform/transform_driver.h"
@@ -45,5 +46,9 @@ Outcome WriteTransformFile(TransformDriver& driver, const std::filesystem::path&
 // A failed read reports "データ読込み失敗" and leaves the driver as it was.
 Outcome ReadLapData(TransformDriver& driver, const std::filesystem::path& path,
                     const ImportAnswers& answers);
+// The same on the file's lines already decoded; `source` names them in a
+// failure's reason.
+Outcome ReadLapLines(TransformDriver& driver, const std::vector<std::string>& lines,
+                     std::string_view source, const ImportAnswers& answers);
 
 }  // namespace lapdesk

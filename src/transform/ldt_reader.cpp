@@ -125,10 +125,17 @@ Outcome ReadLapData(TransformDriver& driver, const std::filesystem::path& path,
     driver.SetStatus("");
     const LinesResult read = ReadTextLines(path);
     if (!read.ok) return ReadFailed(driver, read.reason);
+    return ReadLapLines(driver, read.lines, QuotedPath(path), answers);
+}
+
+Outcome ReadLapLines(TransformDriver& driver, const std::vector<std::string>& lines,
+                     std::string_view source, const ImportAnswers& answers) {
     driver.SetStatus("データ読込み開始");
     LapData data;
-    const Outcome parsed = ParseLapData(read.lines, answers, data);
-    if (!parsed.ok) return ReadFailed(driver, QuotedPath(path).append(": ").append(parsed.reason));
+    const Outcome parsed = ParseLapData(lines, answers, data);
+    if (!parsed.ok) {
+        return ReadFailed(driver, std::string(source).append(": ").append(parsed.reason));
+    }
     driver.LoadFileData(data.N, data.T, data.Gamma0, data.Re, data.Im);
     driver.SetStatus("データ読込み成功");
     return driver.Invert();

@@ -18,8 +18,12 @@ struct Complex {
 inline double AngleUnit = 1.0;
 
 // The constant the argument of a negative real takes: the double
-// 0x400921FB54442D11, one unit above the nearest double to pi.
+// 0x400921FB54442D11, seven units below the nearest double to pi.
 inline constexpr double kArgOfNegativeReal = 3.14159265358979;
+
+// The angle unit for degrees, built on that same constant so that the
+// arguments it gives come out whole: Arg(1j) is 90 and Arg(-1) is 180.
+inline constexpr double kDegreeUnit = kArgOfNegativeReal / 180.0;
 
 // Every operation checks each floating-point step and raises a RuntimeFault
 // (fault.h) on overflow or an invalid result, so no infinity or NaN is ever

@@ -1,5 +1,7 @@
 #include "values/fault.h"
 
+#include <cmath>
+
 namespace lapdesk {
 
 namespace {
@@ -24,6 +26,12 @@ RuntimeFault::RuntimeFault(FaultCode code) : std::runtime_error(DescriptionOf(co
 
 void RaiseFault(FaultCode code) {
     throw RuntimeFault(code);
+}
+
+std::int16_t RoundToInt16(double x) {
+    const double rounded = std::nearbyint(x);
+    if (!(rounded >= -32768.0 && rounded <= 32767.0)) RaiseFault(FaultCode::Overflow);
+    return static_cast<std::int16_t>(rounded);
 }
 
 std::int16_t ToInt16(long long x) {

@@ -45,6 +45,10 @@ inline std::int16_t Add16(std::int16_t a, std::int16_t b) {
 inline std::int16_t Sub16(std::int16_t a, std::int16_t b) {
     return ToInt16(static_cast<long long>(a) - b);
 }
+// A double rounded to the nearest integer (ties to even) as a 16-bit index;
+// out of range (or not finite) is the overflow fault, checked before any
+// conversion.
+std::int16_t RoundToInt16(double x);
 inline std::int16_t Mul16(std::int16_t a, std::int16_t b) {
     return ToInt16(static_cast<long long>(a) * b);
 }

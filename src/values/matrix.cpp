@@ -37,37 +37,63 @@ bool Trapped(Routine routine) {
     }
 }
 
-// Gaussian elimination with partial pivoting on working copies of A and B,
-// then back substitution from the last row upwards.
-bool Solve(ComplexArray a, ComplexArray b, ComplexArray& x) {
+void Poll(const StopPoll& poll) {
+    if (poll) poll();
+}
+
+// Gaussian elimination of A with partial pivoting, kept with its row swaps
+// and factors so that any right-hand side can be solved afterwards with
+// exactly the operations one elimination of [A | b] applies to b.
+struct Elimination {
+    ComplexArray upper;       // A eliminated; its upper triangle is used
+    ComplexArray factors;     // factors(row, col): the multiple of row col taken from row
+    std::vector<int> pivots;  // the row swapped with row col at step col
+};
+
+Elimination Eliminate(ComplexArray a, const StopPoll& poll) {
     const int n = a.Rows();
+    Elimination e{{}, ComplexArray::Matrix(n, n), std::vector<int>(static_cast<std::size_t>(n))};
     for (int col = 0; col < n; ++col) {
+        Poll(poll);
         int pivot = col;
         for (int row = col + 1; row < n; ++row) {
             if (CplAbs(a.At(row, col)) > CplAbs(a.At(pivot, col))) pivot = row;
         }
+        e.pivots[static_cast<std::size_t>(col)] = pivot;
         if (pivot != col) {
             for (int k = 0; k < n; ++k)
                 std::swap(a.At(col, k), a.At(pivot, k));
-            std::swap(b.At(col), b.At(pivot));
         }
         for (int row = col + 1; row < n; ++row) {
             const Complex factor = CplDiv(a.At(row, col), a.At(col, col));
+            e.factors.At(row, col) = factor;
             for (int k = col; k < n; ++k) {
                 a.At(row, k) = CplSub(a.At(row, k), CplMul(factor, a.At(col, k)));
             }
-            b.At(row) = CplSub(b.At(row), CplMul(factor, b.At(col)));
+        }
+    }
+    e.upper = std::move(a);
+    return e;
+}
+
+// Replays the elimination on b, then substitutes back from the last row.
+ComplexArray SolveEliminated(const Elimination& e, ComplexArray b) {
+    const int n = e.upper.Rows();
+    for (int col = 0; col < n; ++col) {
+        const int pivot = e.pivots[static_cast<std::size_t>(col)];
+        if (pivot != col) std::swap(b.At(col), b.At(pivot));
+        for (int row = col + 1; row < n; ++row) {
+            b.At(row) = CplSub(b.At(row), CplMul(e.factors.At(row, col), b.At(col)));
         }
     }
     ComplexArray solution = ComplexArray::Vector(n);
     for (int row = n - 1; row >= 0; --row) {
         Complex sum = b.At(row);
         for (int k = row + 1; k < n; ++k)
-            sum = CplSub(sum, CplMul(a.At(row, k), solution.At(k)));
-        solution.At(row) = CplDiv(sum, a.At(row, row));
+            sum = CplSub(sum, CplMul(e.upper.At(row, k), solution.At(k)));
+        solution.At(row) = CplDiv(sum, e.upper.At(row, row));
     }
-    x = std::move(solution);
-    return true;
+    return solution;
 }
 
 ComplexArray Minor(const ComplexArray& a, int column) {
@@ -126,9 +152,13 @@ Complex EliminatedDeterminant(ComplexArray a) {
 
 }  // namespace
 
-bool GaussSolve(const ComplexArray& a, const ComplexArray& b, ComplexArray& x) {
+bool GaussSolve(const ComplexArray& a, const ComplexArray& b, ComplexArray& x,
+                const StopPoll& poll) {
     if (!IsSquare(a) || !IsVector(b) || b.Rows() != a.Rows()) return false;
-    return Trapped([&] { return Solve(a, b, x); });
+    return Trapped([&] {
+        x = SolveEliminated(Eliminate(a, poll), b);
+        return true;
+    });
 }
 
 bool MatxVec(const ComplexArray& a, const ComplexArray& b, ComplexArray& c) {
@@ -145,11 +175,12 @@ bool MatxVec(const ComplexArray& a, const ComplexArray& b, ComplexArray& c) {
     });
 }
 
-bool MatxMat(const ComplexArray& a, const ComplexArray& b, ComplexArray& c) {
+bool MatxMat(const ComplexArray& a, const ComplexArray& b, ComplexArray& c, const StopPoll& poll) {
     if (b.Rows() != a.Columns()) return false;
     return Trapped([&] {
         ComplexArray product = ComplexArray::Matrix(a.Rows(), b.Columns());
         for (int i = 0; i < a.Rows(); ++i) {
+            Poll(poll);
             for (int j = 0; j < b.Columns(); ++j) {
                 for (int k = 0; k < a.Columns(); ++k) {
                     product.At(i, j) = CplAdd(product.At(i, j), CplMul(a.At(i, k), b.At(k, j)));
@@ -191,20 +222,23 @@ bool MatI3(const ComplexArray& a, Complex& determinant) {
     });
 }
 
-bool InvMat(const ComplexArray& a, ComplexArray& inverse) {
+bool InvMat(const ComplexArray& a, ComplexArray& inverse, const StopPoll& poll) {
     if (!IsSquare(a)) return false;
-    const int n = a.Rows();
-    ComplexArray result = ComplexArray::Matrix(n, n);
-    for (int j = 0; j < n; ++j) {
-        ComplexArray unit = ComplexArray::Vector(n);
-        unit.At(j) = {1.0, 0.0};
-        ComplexArray column;
-        if (!GaussSolve(a, unit, column)) return false;
-        for (int i = 0; i < n; ++i)
-            result.At(i, j) = column.At(i);
-    }
-    inverse = std::move(result);
-    return true;
+    return Trapped([&] {
+        const Elimination e = Eliminate(a, poll);
+        const int n = a.Rows();
+        ComplexArray result = ComplexArray::Matrix(n, n);
+        for (int j = 0; j < n; ++j) {
+            Poll(poll);
+            ComplexArray unit = ComplexArray::Vector(n);
+            unit.At(j) = {1.0, 0.0};
+            const ComplexArray column = SolveEliminated(e, std::move(unit));
+            for (int i = 0; i < n; ++i)
+                result.At(i, j) = column.At(i);
+        }
+        inverse = std::move(result);
+        return true;
+    });
 }
 
 }  // namespace lapdesk

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <vector>
 
 #include "values/complex.h"
@@ -26,14 +27,23 @@ struct ComplexArray {
     std::size_t Index(int i, int j) const { return static_cast<std::size_t>((NI + 1) * j + i); }
 };
 
+// Called between the rows or columns of the routines that take O(n^3) work,
+// so that the caller can end one the user wants stopped by raising its own
+// signal (which passes through; only arithmetic faults are trapped here).
+using StopPoll = std::function<void()>;
+
 // Each routine returns false when the shapes do not fit or an arithmetic
 // fault (such as a zero pivot) occurred inside; the fault is trapped here.
-bool GaussSolve(const ComplexArray& a, const ComplexArray& b, ComplexArray& x);  // A·X = B
+bool GaussSolve(const ComplexArray& a, const ComplexArray& b, ComplexArray& x,
+                const StopPoll& poll = {});  // A·X = B
 bool MatxVec(const ComplexArray& a, const ComplexArray& b, ComplexArray& c);
-bool MatxMat(const ComplexArray& a, const ComplexArray& b, ComplexArray& c);
+bool MatxMat(const ComplexArray& a, const ComplexArray& b, ComplexArray& c,
+             const StopPoll& poll = {});
 bool MatI1(const ComplexArray& a, Complex& trace);
 bool MatJ2(const ComplexArray& a, Complex& sumOfSquares);  // Σ A(i,j)·A(i,j), no conjugate
 bool MatI3(const ComplexArray& a, Complex& determinant);
-bool InvMat(const ComplexArray& a, ComplexArray& inverse);
+// One elimination of A and a solve per column of the identity: each column
+// is exactly what GaussSolve gives for that unit vector.
+bool InvMat(const ComplexArray& a, ComplexArray& inverse, const StopPoll& poll = {});
 
 }  // namespace lapdesk

@@ -151,9 +151,9 @@ TEST(Argument, NegativeRealTakesTheFixedConstantNotPi) {
 }
 
 TEST(Argument, IsDividedByTheAngleUnit) {
-    const AngleUnitScope degrees(kPi / 180);
-    EXPECT_NEAR(CplArg({0, 1}), 90.0, 1e-12);
-    EXPECT_NEAR(CplArg({-1, 0}), 180.0, 1e-12);
+    const AngleUnitScope degrees(kDegreeUnit);
+    EXPECT_EQ(CplArg({0, 1}), 90.0);
+    EXPECT_EQ(CplArg({-1, 0}), 180.0);
     double theta = 0;
     EXPECT_EQ(CplAbsArg({3, 4}, theta), 5.0);
     EXPECT_NEAR(theta, std::atan2(4.0, 3.0) * 180 / kPi, 1e-12);

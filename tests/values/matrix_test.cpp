@@ -2,7 +2,9 @@
 // and the inverse, checked against values worked out by hand.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <initializer_list>
+#include <utility>
 #include <vector>
 
 #include "complex_near.h"
@@ -239,6 +241,60 @@ TEST(InvMat, InverseTimesMatrixIsIdentity) {
         EXPECT_TRUE(SameArray(product, Identity(a.Rows()), 1e-12));
         ASSERT_TRUE(MatxMat(a, inverse, product));
         EXPECT_TRUE(SameArray(product, Identity(a.Rows()), 1e-12));
+    }
+}
+
+// The elimination of [A | b] as one pass, kept as the reference that the
+// shared elimination of InvMat and GaussSolve must match bit for bit.
+ComplexArray ReferenceSolve(ComplexArray a, ComplexArray b) {
+    const int n = a.Rows();
+    for (int col = 0; col < n; ++col) {
+        int pivot = col;
+        for (int row = col + 1; row < n; ++row) {
+            if (CplAbs(a.At(row, col)) > CplAbs(a.At(pivot, col))) pivot = row;
+        }
+        if (pivot != col) {
+            for (int k = 0; k < n; ++k)
+                std::swap(a.At(col, k), a.At(pivot, k));
+            std::swap(b.At(col), b.At(pivot));
+        }
+        for (int row = col + 1; row < n; ++row) {
+            const Complex factor = CplDiv(a.At(row, col), a.At(col, col));
+            for (int k = col; k < n; ++k)
+                a.At(row, k) = CplSub(a.At(row, k), CplMul(factor, a.At(col, k)));
+            b.At(row) = CplSub(b.At(row), CplMul(factor, b.At(col)));
+        }
+    }
+    ComplexArray x = ComplexArray::Vector(n);
+    for (int row = n - 1; row >= 0; --row) {
+        Complex sum = b.At(row);
+        for (int k = row + 1; k < n; ++k)
+            sum = CplSub(sum, CplMul(a.At(row, k), x.At(k)));
+        x.At(row) = CplDiv(sum, a.At(row, row));
+    }
+    return x;
+}
+
+// One elimination serves every column: each column is bit for bit what the
+// elimination of [A | e_j] gives, and GaussSolve gives the same.
+TEST(InvMat, EachColumnIsTheSolveForItsUnitVector) {
+    const int n = 12;
+    ComplexArray a = ComplexArray::Matrix(n, n);
+    for (int i = 0; i < n; ++i) {
+        for (int j = 0; j < n; ++j)
+            a.At(i, j) = {std::sin(1.0 + i * n + j), std::cos(3.0 * i - j)};
+    }
+    ComplexArray inverse;
+    ASSERT_TRUE(InvMat(a, inverse));
+    for (int j = 0; j < n; ++j) {
+        ComplexArray unit = ComplexArray::Vector(n), solved;
+        unit.At(j) = {1.0, 0.0};
+        const ComplexArray reference = ReferenceSolve(a, unit);
+        ASSERT_TRUE(GaussSolve(a, unit, solved));
+        for (int i = 0; i < n; ++i) {
+            EXPECT_EQ(inverse.At(i, j), reference.At(i)) << i << "," << j;
+            EXPECT_EQ(solved.At(i), reference.At(i)) << i << "," << j;
+        }
     }
 }
 
