@@ -5,4 +5,4 @@ find_package(PkgConfig REQUIRED)
 pkg_check_modules(FFTW3 REQUIRED IMPORTED_TARGET fftw3)
 add_executable(transform_bench ${CMAKE_CURRENT_LIST_DIR}/transform_bench.cpp)
 target_link_libraries(transform_bench
-  PRIVATE lapdesk_transform PkgConfig::FFTW3 benchmark::benchmark_main lapdesk_warnings)
+  PRIVATE lapdesk_transform PkgConfig::FFTW3 lapdesk_bench_ratio_table lapdesk_warnings)

@@ -1,4 +1,5 @@
-// lapdesk-cli --plot: the result drawn into a PNG or SVG file.
+// lapdesk-cli --plot: the result drawn into a PNG or SVG file. The drawing
+// lives in a separate module (it needs Qt), loaded only for --plot.
 #pragma once
 
 #include <string>
@@ -9,8 +10,12 @@ class TransformDriver;
 
 namespace lapdesk::cli {
 
-// Draws f(t) with the transform window's plot code on Qt's offscreen
-// platform, so no display is needed. Returns "" or why it failed.
+// "" when --plot can work: this build has the plot module and it is where
+// the tool looks for it. Otherwise the reason, for the option's check.
+std::string PlotUnavailableReason();
+
+// Draws f(t) with the transform window's plot code. Returns "" or why it
+// failed.
 std::string WritePlotImage(const TransformDriver& driver, const std::string& path);
 
 }  // namespace lapdesk::cli

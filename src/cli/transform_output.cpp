@@ -5,11 +5,9 @@
 #include <iostream>
 
 #include "fileio/text_file.h"
+#include "plot_option.h"
 #include "transform/ldt_file.h"
 #include "transform/transform_driver.h"
-#ifdef LAPDESK_CLI_PLOT
-#include "plot_option.h"
-#endif
 
 namespace lapdesk::cli {
 
@@ -58,9 +56,8 @@ void TransformOutputOptions::AddTo(CLI::App& command) {
         "-o,--output", output,
         "Write the result as a data file (cp932, CR LF) instead of to standard output");
     command.add_option("--csv", csv, "Also write t,y,re,im for every point as CSV");
-#ifdef LAPDESK_CLI_PLOT
-    command.add_option("--plot", plot, "Also draw f(t) into OUT.png or OUT.svg");
-#endif
+    command.add_option("--plot", plot, "Also draw f(t) into OUT.png or OUT.svg")
+        ->check([](const std::string&) { return PlotUnavailableReason(); });
 }
 
 void ReportStatusOnStderr(TransformDriver& driver) {
@@ -82,12 +79,10 @@ int WriteTransformOutputs(TransformDriver& driver, std::string_view programText,
         const WriteResult written = WriteBytesAtomic(*options.csv, CsvTable(driver, errorBand));
         if (!written.ok) return Fail(verb, written.reason);
     }
-#ifdef LAPDESK_CLI_PLOT
     if (options.plot) {
         const std::string reason = WritePlotImage(driver, *options.plot);
         if (!reason.empty()) return Fail(verb, reason);
     }
-#endif
     return 0;
 }
 

@@ -1,6 +1,6 @@
 // The outputs shared by the verbs that run the transform: the result text
-// (the data file layout) to a file or standard output, a CSV table, and, in
-// builds with the desktop windows, a plot image.
+// (the data file layout) to a file or standard output, a CSV table, and a
+// plot image (in builds with the desktop windows).
 #pragma once
 
 #include <optional>
@@ -21,9 +21,7 @@ namespace lapdesk::cli {
 struct TransformOutputOptions {
     std::optional<std::string> output;
     std::optional<std::string> csv;
-#ifdef LAPDESK_CLI_PLOT
     std::optional<std::string> plot;
-#endif
 
     void AddTo(CLI::App& command);
 };

@@ -1,9 +1,12 @@
 #include "expr/conditions.h"
 
+#include <optional>
 #include <vector>
 
+#include "expr/condition_scan.h"
 #include "expr/evaluator.h"
 #include "expr/nesting_guard.h"
+#include "expr/scan_cache.h"
 #include "expr/text_scan.h"
 #include "expr/vocabulary.h"
 
@@ -25,41 +28,6 @@ int Priority(std::string_view op) {
     if (SameWord(op, ".And.")) return 2;
     if (SameWord(op, ".Not.")) return 3;
     return 4;
-}
-
-struct Token {
-    bool isOperator;
-    std::string_view text;  // the operand text, or the canonical operator name
-};
-
-// The canonical operator that begins `text`, if any.
-std::string_view OperatorAt(std::string_view text) {
-    for (const CanonicalOperator& op : GetVocabulary().operators) {
-        if (StartsWithWord(text, op.name)) return op.name;
-    }
-    return {};
-}
-
-// Cuts the condition at its dotted operators outside brackets.
-bool Tokenize(std::string_view s, std::vector<Token>& tokens) {
-    int depth = 0;
-    std::size_t start = 0;
-    for (std::size_t i = 0; i < s.size(); ++i) {
-        if (s[i] == '(') ++depth;
-        if (s[i] == ')' && --depth < 0) return false;
-        if (s[i] != '.' || depth != 0) continue;
-        const std::string_view op = OperatorAt(s.substr(i));
-        if (op.empty()) continue;
-        const std::string_view operand = Trim(s.substr(start, i - start));
-        if (!operand.empty()) tokens.push_back({false, operand});
-        tokens.push_back({true, op});
-        i += op.size() - 1;
-        start = i + 1;
-    }
-    if (depth != 0) return false;
-    const std::string_view operand = Trim(s.substr(start));
-    if (!operand.empty()) tokens.push_back({false, operand});
-    return true;
 }
 
 struct Operand {
@@ -140,14 +108,16 @@ std::string ReplaceSynonyms(std::string_view condition) {
 // wait on a stack above the "@Top@" marker until a weaker one arrives.
 bool Evaluator::EvalCondition(std::string_view text, bool& truth) {
     NestingGuard guard;
-    if (!guard.Admits(BracketDepth(text))) return Fail("式の入れ子が深すぎます");
-    const std::string s = ReplaceSynonyms(text);
-    std::vector<Token> tokens;
-    if (!Tokenize(s, tokens)) return Fail("括弧が対応していません");
+    ScanCache& cache = ScanCache::Instance();
+    const ScanCache::Evaluating evaluating(cache);
+    std::optional<ConditionScan> fresh;
+    const ConditionScan& scan = cache.Condition(text, fresh);
+    if (!guard.Admits(scan.bracketDepth)) return Fail("式の入れ子が深すぎます");
+    if (!scan.bracketsBalance) return Fail("括弧が対応していません");
     std::vector<std::string_view> ops{kTop};
     std::vector<Operand> operands;
     bool expectOperand = true;
-    for (const Token& token : tokens) {
+    for (const ConditionToken& token : scan.tokens) {
         if (!token.isOperator) {
             if (!expectOperand) return false;
             Operand operand{};

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "expr/nesting_guard.h"
+#include "expr/scan_cache.h"
 #include "expr/text_scan.h"
 #include "expr/vocabulary.h"
 #include "values/builtins.h"
@@ -13,8 +14,8 @@ namespace lapdesk {
 
 namespace {
 
-// Every bracket level rescans its text, so the depth of one expression is
-// bounded well below the guard's own limit: work stays linear in practice.
+// The depth of one expression is bounded well below the guard's own limit,
+// so scanning a text (each bracket level scans its own part) stays cheap.
 constexpr std::size_t kMaxBracketDepth = 256;
 constexpr std::string_view kTooDeep = "式の入れ子が深すぎます";
 constexpr std::string_view kBrackets = "括弧が対応していません";
@@ -67,160 +68,147 @@ bool Evaluator::Fail(std::string reason) {
     return false;
 }
 
-// sum -> [+|-] term { (+|-) term }
+// The public levels take their text's kept scan, or scan it afresh.
 bool Evaluator::EvalSum(std::string_view& text, Complex& value) {
+    ScanCache& cache = ScanCache::Instance();
+    const ScanCache::Evaluating evaluating(cache);
+    std::optional<SumScan> fresh;
+    if (!EvalScannedSum(cache.Sum(text, fresh), value)) return false;
+    text = {};
+    return true;
+}
+
+bool Evaluator::EvalTerm(std::string_view& text, Complex& value) {
+    const ScanCache::Evaluating evaluating(ScanCache::Instance());
+    if (!EvalScannedTerm(SumScan::OfTerm(text), 0, value)) return false;
+    text = {};
+    return true;
+}
+
+bool Evaluator::EvalFactor(std::string_view& text, Complex& value) {
+    const ScanCache::Evaluating evaluating(ScanCache::Instance());
+    if (!EvalScannedFactor(SumScan::OfFactor(text), 0, value)) return false;
+    text = {};
+    return true;
+}
+
+bool Evaluator::EvalPrimary(std::string_view& text, Complex& value) {
+    const ScanCache::Evaluating evaluating(ScanCache::Instance());
+    if (!EvalScannedPrimary(PrimaryScan(text), value)) return false;
+    text = {};
+    return true;
+}
+
+// sum -> [+|-] term { (+|-) term }
+bool Evaluator::EvalScannedSum(const SumScan& scan, Complex& value) {
     NestingGuard guard;
-    const std::size_t depth = BracketDepth(text);
-    if (depth > kMaxBracketDepth || !guard.Admits(depth)) return Fail(std::string(kTooDeep));
-    text = Trim(text);
-    if (text.empty()) return false;
-    char op = '+';
-    if (CharInSet(text.front(), "+-") != 0) {
-        op = text.front();
-        text.remove_prefix(1);
+    if (scan.bracketDepth > kMaxBracketDepth || !guard.Admits(scan.bracketDepth)) {
+        return Fail(std::string(kTooDeep));
     }
+    if (scan.sum.empty) return false;
     Complex acc{};
-    for (bool leading = true;; leading = false) {
-        // A sign right after a binary "+" or "-" signs the next operand
-        // (p=1+-2j); after the leading sign it does not (--3 fails).
-        const std::size_t start = std::min(text.find_first_not_of(" \t"), text.size());
-        const bool signedOperand =
-            !leading && start < text.size() && CharInSet(text[start], "+-") != 0;
-        std::string_view operand;
-        if (!SplitOperand(text, "+-", operand, signedOperand ? start + 1 : 0)) {
-            return Fail(std::string(kBrackets));
-        }
+    for (std::size_t t = 0; t < scan.sum.count; ++t) {
         Complex v;
-        if (!EvalTerm(operand, v)) return false;
-        ApplyOperator(op, acc, v);
-        if (text.empty()) break;
-        op = text.front();
-        text.remove_prefix(1);
+        if (!EvalScannedTerm(scan, t, v)) return false;
+        ApplyOperator(scan.terms[t].op, acc, v);
     }
+    if (scan.sum.unbalancedAfter) return Fail(std::string(kBrackets));
     value = acc;
     return true;
 }
 
 // term -> factor { (*|/) factor }
-bool Evaluator::EvalTerm(std::string_view& text, Complex& value) {
-    return EvalChain(text, "*/", false, value);
-}
-
-// factor -> primary { ^ primary }, left-associative: 2^3^2 is (2^3)^2
-bool Evaluator::EvalFactor(std::string_view& text, Complex& value) {
-    return EvalChain(text, "^", true, value);
-}
-
-bool Evaluator::EvalChain(std::string_view& text, std::string_view ops, bool factors,
-                          Complex& value) {
-    text = Trim(text);
-    if (text.empty()) return false;
-    std::string_view operand;
-    if (!SplitOperand(text, ops, operand)) return Fail(std::string(kBrackets));
+bool Evaluator::EvalScannedTerm(const SumScan& scan, std::size_t term, Complex& value) {
+    const SumScan::Operand& t = scan.terms[term];
+    if (t.empty) return false;
     Complex acc;
-    if (!EvalOperand(operand, factors, acc)) return false;
-    while (!text.empty()) {
-        const char op = text.front();
-        text.remove_prefix(1);
-        if (!SplitOperand(text, ops, operand)) return Fail(std::string(kBrackets));
+    for (std::size_t f = t.first; f < t.first + t.count; ++f) {
         Complex v;
-        if (!EvalOperand(operand, factors, v)) return false;
-        ApplyOperator(op, acc, v);
+        if (!EvalScannedFactor(scan, f, v)) return false;
+        if (f == t.first) {
+            acc = v;
+        } else {
+            ApplyOperator(scan.factors[f].op, acc, v);
+        }
     }
+    if (t.unbalancedAfter) return Fail(std::string(kBrackets));
     value = acc;
     return true;
 }
 
-bool Evaluator::EvalOperand(std::string_view operand, bool factors, Complex& value) {
-    return factors ? EvalPrimary(operand, value) : EvalFactor(operand, value);
+// factor -> primary { ^ primary }, left-associative: 2^3^2 is (2^3)^2
+bool Evaluator::EvalScannedFactor(const SumScan& scan, std::size_t factor, Complex& value) {
+    const SumScan::Operand& f = scan.factors[factor];
+    if (f.empty) return false;
+    Complex acc;
+    for (std::size_t p = f.first; p < f.first + f.count; ++p) {
+        Complex v;
+        if (!EvalScannedPrimary(scan.primaries[p], v)) return false;
+        if (p == f.first) {
+            acc = v;
+        } else {
+            ApplyOperator(scan.primaryOps[p], acc, v);
+        }
+    }
+    if (f.unbalancedAfter) return Fail(std::string(kBrackets));
+    value = acc;
+    return true;
 }
 
 // primary -> function call | matrix call | user call | literal | name | ( sum )
-bool Evaluator::EvalPrimary(std::string_view& text, Complex& value) {
-    text = Trim(text);
-    if (text.empty()) return false;
+bool Evaluator::EvalScannedPrimary(const PrimaryScan& scan, Complex& value) {
+    if (scan.text.empty()) return false;
     scope_.PollStop();
     ArgumentMemo memo;
     MemoScope memoScope(*this, memo);
-    if (text.back() == ')') {
-        std::optional<bool> called;
-        if (const auto row = FindScalarFunction(text)) {
-            called = EvalScalarFunction(*row, text, value);
-        } else if (const auto row = FindMatrixFunction(text)) {
-            called = EvalMatrixFunction(*row, text, value);
-        }
-        if (called) {
-            if (*called) text = {};
-            return *called;
-        }
-        if (text.front() != '(' && scope_.CallUserFunction(*this, text, value)) {
-            text = {};
-            return true;
-        }
-    }
-    std::string literal(text);
-    if (TextToComplex(literal, value)) {
-        text = {};
+    if (scan.scalarCall) return EvalScalarFunction(*scan.scalarCall, value);
+    if (scan.matrixCall) return EvalMatrixFunction(*scan.matrixCall, value);
+    if (scan.mayCallUser && scope_.CallUserFunction(*this, scan.text, value)) return true;
+    if (scan.literal) {
+        value = *scan.literal;
         return true;
     }
-    if (EvalNamed(text, value)) {
-        text = {};
-        return true;
-    }
-    if (text.front() == '(' && BracketClosesAtEnd(text, 0)) {
-        std::string_view inside = text.substr(1, text.size() - 2);
-        if (!EvalSum(inside, value)) return false;
-        text = {};
-        return true;
-    }
+    if (EvalNamed(scan, value)) return true;
+    if (scan.bracketed) return EvalScannedSum(scan.bracketed->Get(), value);
     return false;
 }
 
-bool Evaluator::EvalScalarFunction(std::size_t row, std::string_view text, Complex& value) {
-    const ScalarFunction& function = GetVocabulary().scalarFunctions[row];
-    const std::size_t open = function.name.size() - 1;
-    if (!BracketClosesAtEnd(text, open)) return Fail(std::string(kBrackets));
-    std::vector<std::string_view> pieces;
-    const std::string_view inside = text.substr(open + 1, text.size() - open - 2);
-    if (!Trim(inside).empty() && !SplitTopLevel(inside, ',', pieces)) {
-        return Fail(std::string(kBrackets));
-    }
-    const int count = static_cast<int>(pieces.size());
+bool Evaluator::EvalScalarFunction(const FunctionCallScan& call, Complex& value) {
+    const ScalarFunction& function = GetVocabulary().scalarFunctions[call.row];
+    if (!call.bracketsClose || !call.argumentsSplit) return Fail(std::string(kBrackets));
+    const int count = static_cast<int>(call.arguments.size());
     if (count < function.minArguments || count > function.maxArguments) {
         return Fail(function.name + ") の引数の数が違います");
     }
     if (function.code >= kBooleanFunctionCode) {
         bool truth = false;
-        if (!EvalCondition(pieces[0], truth)) return false;
+        if (!EvalCondition(call.arguments[0], truth)) return false;
         value = {truth ? 1.0 : 0.0, 0.0};
         return true;
     }
-    std::vector<Complex> args(pieces.size());
-    for (std::size_t i = 0; i < pieces.size(); ++i) {
-        if (!EvalSum(pieces[i], args[i])) return false;
+    std::vector<Complex> args(call.arguments.size());
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        if (!EvalScannedSum(call.argumentScans[i].Get(), args[i])) return false;
     }
     return CallScalarFunction(function.code, args, value);
 }
 
-bool Evaluator::EvalMatrixFunction(std::size_t row, std::string_view text, Complex& value) {
-    const MatrixFunction& function = GetVocabulary().matrixFunctions[row];
-    const std::size_t open = function.name.size() - 1;
-    if (!BracketClosesAtEnd(text, open)) return Fail(std::string(kBrackets));
-    std::vector<std::string_view> names;
-    if (!SplitTopLevel(text.substr(open + 1, text.size() - open - 2), ',', names)) return false;
-    for (std::string_view& name : names)
-        name = Trim(name);
-    return scope_.CallMatrixFunction(row, names, value);
+bool Evaluator::EvalMatrixFunction(const FunctionCallScan& call, Complex& value) {
+    if (!call.bracketsClose) return Fail(std::string(kBrackets));
+    if (!call.argumentsSplit) return false;
+    return scope_.CallMatrixFunction(call.row, call.arguments, value);
 }
 
 // A named constant, or a variable or array element of the scope.
-bool Evaluator::EvalNamed(std::string_view text, Complex& value) {
-    if (const auto constant = ConstantValue(text)) {
-        value = *constant;
-        return true;
+bool Evaluator::EvalNamed(const PrimaryScan& scan, Complex& value) {
+    if (scan.mayBeConstant) {
+        if (const auto constant = ConstantValue(scan.text)) {
+            value = *constant;
+            return true;
+        }
     }
-    NameWithSubscripts target;
-    if (!SplitNameAndSubscripts(text, target)) return false;
+    if (!scan.isName) return false;
+    const NameWithSubscripts& target = scan.name;
     if (scope_.ReadVariable(*this, target.name, target.subscripts, value)) return true;
     if (target.subscripts.empty()) Fail("「" + std::string(target.name) + "」は定義されていません");
     return false;

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "expr/expression_scan.h"
 #include "expr/name_scope.h"
 #include "values/complex.h"
 #include "values/fault.h"
@@ -57,11 +58,14 @@ class Evaluator {
     class MemoScope;
 
     bool Fail(std::string reason);
-    bool EvalChain(std::string_view& text, std::string_view ops, bool factors, Complex& value);
-    bool EvalOperand(std::string_view operand, bool factors, Complex& value);
-    bool EvalScalarFunction(std::size_t row, std::string_view text, Complex& value);
-    bool EvalMatrixFunction(std::size_t row, std::string_view text, Complex& value);
-    bool EvalNamed(std::string_view text, Complex& value);
+    // The same levels on a text's scan (expression_scan.h).
+    bool EvalScannedSum(const SumScan& scan, Complex& value);
+    bool EvalScannedTerm(const SumScan& scan, std::size_t term, Complex& value);
+    bool EvalScannedFactor(const SumScan& scan, std::size_t factor, Complex& value);
+    bool EvalScannedPrimary(const PrimaryScan& scan, Complex& value);
+    bool EvalScalarFunction(const FunctionCallScan& call, Complex& value);
+    bool EvalMatrixFunction(const FunctionCallScan& call, Complex& value);
+    bool EvalNamed(const PrimaryScan& scan, Complex& value);
 
     NameScope& scope_;
     std::string failure_;

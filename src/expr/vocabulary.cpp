@@ -202,6 +202,13 @@ std::optional<std::size_t> FindMatrixFunction(std::string_view text) {
     return std::nullopt;
 }
 
+bool IsNamedConstant(std::string_view name) {
+    const auto& constants = GetVocabulary().constants;
+    return std::any_of(constants.begin(), constants.end(), [&](const NamedConstant& constant) {
+        return SameWord(name, constant.name);
+    });
+}
+
 std::optional<Complex> ConstantValue(std::string_view name) {
     for (const NamedConstant& constant : GetVocabulary().constants) {
         if (!SameWord(name, constant.name)) continue;

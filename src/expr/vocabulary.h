@@ -79,6 +79,8 @@ std::optional<std::size_t> FindMatrixFunction(std::string_view text);
 
 // The value of a named constant ("π", "PAI", "Exp1", "1j", "Random", ...).
 std::optional<Complex> ConstantValue(std::string_view name);
+// Whether ConstantValue knows the name; draws no random number.
+bool IsNamedConstant(std::string_view name);
 
 // True when the name is a word of the vocabulary; never for a name that
 // begins with a digit.

@@ -4,8 +4,8 @@
 // are reproducible to the last bit.
 //
 // These routines raise lapdesk::RuntimeFault (values/fault.h) on overflow, an
-// invalid result or a block whose sizes do not fit; the transform driver is
-// the one place that traps it.
+// invalid result or a block whose sizes do not fit (the data are then left
+// part-way); the transform driver is the one place that traps it.
 #pragma once
 
 #include <cstdint>

@@ -1,11 +1,13 @@
-#include "plot_option.h"
-
+// The plot module lapdesk-cli-plot.so: the Qt part of lapdesk-cli --plot,
+// loaded only when --plot is given so that every other use of the tool
+// starts without the Qt libraries.
 #include <QApplication>
 #include <cstdio>
+#include <string>
+#include <type_traits>
 
+#include "plot_module_entry.h"
 #include "transform/window/plot/plot_image.h"
-
-namespace lapdesk::cli {
 
 namespace {
 
@@ -19,19 +21,18 @@ void QuietMessages(QtMsgType type, const QMessageLogContext&, const QString& mes
 
 }  // namespace
 
-std::string WritePlotImage(const TransformDriver& driver, const std::string& path) {
+// Draws on Qt's offscreen platform, so no display is needed.
+extern "C" [[gnu::visibility("default")]] void LapdeskWritePlotImage(
+    const lapdesk::TransformDriver& driver, const std::string& path, std::string& reason) {
+    static_assert(std::is_same_v<decltype(&LapdeskWritePlotImage), lapdesk::cli::PlotModuleEntry>);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QtMessageHandler previous = qInstallMessageHandler(QuietMessages);
     int argc = 1;
     char name[] = "lapdesk-cli";
     char* argv[] = {name, nullptr};
-    std::string reason;
     {
         QApplication app(argc, argv);
-        reason = SavePlotImage(driver, QString::fromStdString(path)).toStdString();
+        reason = lapdesk::SavePlotImage(driver, QString::fromStdString(path)).toStdString();
     }
     qInstallMessageHandler(previous);
-    return reason;
 }
-
-}  // namespace lapdesk::cli

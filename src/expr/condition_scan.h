@@ -1,0 +1,29 @@
+// What the evaluator learns by scanning a condition text: the text with its
+// operator synonyms replaced by the dotted forms, cut into operands and
+// operators. Like an expression's scan it follows from the text alone and
+// serves every later evaluation of the same text.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lapdesk {
+
+struct ConditionToken {
+    bool isOperator;
+    std::string_view text;  // the operand text, or the canonical operator name
+};
+
+struct ConditionScan {
+    explicit ConditionScan(std::string_view text);
+    ConditionScan(const ConditionScan&) = delete;  // the tokens point into `replaced`
+    ConditionScan& operator=(const ConditionScan&) = delete;
+
+    std::size_t bracketDepth = 0;
+    std::string replaced;
+    bool bracketsBalance = false;
+    std::vector<ConditionToken> tokens;
+};
+
+}  // namespace lapdesk
