@@ -2,7 +2,8 @@
 # Sets everything up, builds the Debug build with AddressSanitizer and
 # UndefinedBehaviorSanitizer, builds the fuzz targets and runs each over its
 # seeds and for a short while (FUZZ_SECONDS, 60 by default), so that a
-# regression in the parsers fails, and runs every test through CTest.
+# regression in the parsers fails, builds the Debian package and checks what
+# it installs, and runs every test through CTest.
 set -euo pipefail
 cd "$(dirname "$0")"
 ./scripts/install-deps
@@ -16,4 +17,6 @@ for target in immediate_line program data_file; do
   fi
   grep -E '^stat::number_of_executed_units' "build/fuzz-$target.log" | sed "s/^/fuzz $target: /"
 done
+# The Debian package, built in its own preset, unpacked and checked.
+./scripts/check-package
 ctest --preset asan -j2

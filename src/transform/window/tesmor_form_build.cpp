@@ -21,6 +21,7 @@
 
 #include "calculator/frm_cpl_cal.h"
 #include "importer/read_file_wisard.h"
+#include "transform/window/about_box.h"
 #include "transform/window/draggable_frame.h"
 #include "transform/window/plot/scrn_plot.h"
 #include "transform/window/tesmor_form.h"
@@ -389,6 +390,7 @@ void TesmorForm::BuildMenus() {
         MakeAction(data, "MenueProgramWrite", QStringLiteral("逆変換関数計算プログラム保存"));
     connect(programWrite, &QAction::triggered, this, &TesmorForm::MenueProgramWrite_Click);
     busyActions_ = {read, memo, make, run, programRead, programWrite};
+    AddHelpMenu(*this);
 }
 
 }  // namespace lapdesk
