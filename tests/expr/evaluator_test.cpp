@@ -55,7 +55,8 @@ class EvaluatorTest : public ::testing::Test {
 
     Evaluation Eval(std::string_view text) { return Evaluate(text, scope); }
 
-    void ExpectAll(std::initializer_list<std::pair<const char*, Outcome>> rows) {
+    template <std::size_t N>
+    void ExpectAll(const std::pair<const char*, Outcome> (&rows)[N]) {
         for (const auto& [text, expected] : rows) {
             EXPECT_TRUE(Matches(Eval(text), expected)) << '"' << text << '"';
         }
@@ -71,24 +72,17 @@ class EvaluatorTest : public ::testing::Test {
 };
 
 TEST_F(EvaluatorTest, PrecedenceSignsAndBlanks) {
-    ExpectAll({{"2^3^2", Value(64)},
-               {"-2^2", Value(-4)},
-               {"-x*y", Value(-10)},
-               {"2^-1", Value(0.5)},
-               {"2*-3", Value(-6)},
-               {"6/-3", Value(-2)},
-               {"2*(-x)", Value(-10)},
-               {"10-2-3", Value(5)},
-               {"64/4/2", Value(8)},
-               {"2*3+4*5", Value(26)},
-               {"2*3^2", Value(18)},
-               {"((2))*((3+1))", Value(8)},
-               {"  3 + 4j  ", Value(3, 4)},
-               {" 2 *  x ^ 2 - 1 ", Value(49)},
-               {"2 * -3", Value(-6)},
-               {"-(2+3)", Value(-5)},
-               {"3 - -2", Value(5)},
-               {"1+-2j", Value(1, -2)}});
+    const std::pair<const char*, Outcome> rows[] = {
+        {"2^3^2", Value(64)},        {"-2^2", Value(-4)},
+        {"-x*y", Value(-10)},        {"2^-1", Value(0.5)},
+        {"2*-3", Value(-6)},         {"6/-3", Value(-2)},
+        {"2*(-x)", Value(-10)},      {"10-2-3", Value(5)},
+        {"64/4/2", Value(8)},        {"2*3+4*5", Value(26)},
+        {"2*3^2", Value(18)},        {"((2))*((3+1))", Value(8)},
+        {"  3 + 4j  ", Value(3, 4)}, {" 2 *  x ^ 2 - 1 ", Value(49)},
+        {"2 * -3", Value(-6)},       {"-(2+3)", Value(-5)},
+        {"3 - -2", Value(5)},        {"1+-2j", Value(1, -2)}};
+    ExpectAll(rows);
 }
 
 TEST_F(EvaluatorTest, MalformedTextFails) {
@@ -99,55 +93,52 @@ TEST_F(EvaluatorTest, MalformedTextFails) {
 // A sign right after a digit and "E" belongs to the literal, not to the sum;
 // a name that ends in "2E" is still a name.
 TEST_F(EvaluatorTest, LiteralsWithExponentsAndImaginaryUnits) {
-    ExpectAll({{"1E-3+1", Value(1.001)},
-               {"1e-3+1", Value(1.001)},
-               {"1E+3-1", Value(999)},
-               {"1+2E-3j", Value(1, 0.002)},
-               {"x2E-3", Value(7)},
-               {"x2E+3", Value(13)},
-               {"3J*2I", Value(-6)}});
+    const std::pair<const char*, Outcome> rows[] = {
+        {"1E-3+1", Value(1.001)},     {"1e-3+1", Value(1.001)}, {"1E+3-1", Value(999)},
+        {"1+2E-3j", Value(1, 0.002)}, {"x2E-3", Value(7)},      {"x2E+3", Value(13)},
+        {"3J*2I", Value(-6)}};
+    ExpectAll(rows);
     ExpectFailures({"j", "3jj"});
 }
 
 TEST_F(EvaluatorTest, FunctionsAndConstants) {
-    ExpectAll({{"Sin(0)+1", Value(1)},
-               {"Sqrt(4)*(1+1)", Value(4)},
-               {"Atn(1)", Value(std::atan(1.0))},
-               {"Sqr(2)", Value(std::sqrt(2.0))},
-               {"sIN(0)+COS(0)", Value(1)},
-               {"Log10(100)", Value(2, 0, 1e-15)},
-               {"Log2(8)", Value(3, 0, 1e-15)},
-               {"Sinh(1)", Value(std::sinh(1.0))},
-               {"Cpx(1, 2+3j)", Value(1, 2)},
-               {"Power(2, Power(2, 3))", Value(256)},
-               {"Abs((3+4j))", Value(5)},
-               {"Integer(2.5)+Integer(3.5)", Value(6)},
-               {"Sin( 0 )", Value(0)},
-               {"pai", Value(kPi)},
-               {"2π", Value(2 * kPi)},
-               {"DPaI", Value(2 * kPi)},
-               {"0.5PaI", Value(kPi / 2)},
-               {"HPI", Value(kPi / 2)},
-               {"Exp1", Value(std::numbers::e, 0, 1e-15)},
-               {"1i*1j", Value(-1)},
-               {"3*2π", Value(6 * kPi, 0, 1e-14)},
-               {"-π", Value(-kPi)},
-               {"Sin(0.5π)", Value(1)}});
+    const std::pair<const char*, Outcome> rows[] = {{"Sin(0)+1", Value(1)},
+                                                    {"Sqrt(4)*(1+1)", Value(4)},
+                                                    {"Atn(1)", Value(std::atan(1.0))},
+                                                    {"Sqr(2)", Value(std::sqrt(2.0))},
+                                                    {"sIN(0)+COS(0)", Value(1)},
+                                                    {"Log10(100)", Value(2, 0, 1e-15)},
+                                                    {"Log2(8)", Value(3, 0, 1e-15)},
+                                                    {"Sinh(1)", Value(std::sinh(1.0))},
+                                                    {"Cpx(1, 2+3j)", Value(1, 2)},
+                                                    {"Power(2, Power(2, 3))", Value(256)},
+                                                    {"Abs((3+4j))", Value(5)},
+                                                    {"Integer(2.5)+Integer(3.5)", Value(6)},
+                                                    {"Sin( 0 )", Value(0)},
+                                                    {"pai", Value(kPi)},
+                                                    {"2π", Value(2 * kPi)},
+                                                    {"DPaI", Value(2 * kPi)},
+                                                    {"0.5PaI", Value(kPi / 2)},
+                                                    {"HPI", Value(kPi / 2)},
+                                                    {"Exp1", Value(std::numbers::e, 0, 1e-15)},
+                                                    {"1i*1j", Value(-1)},
+                                                    {"3*2π", Value(6 * kPi, 0, 1e-14)},
+                                                    {"-π", Value(-kPi)},
+                                                    {"Sin(0.5π)", Value(1)}};
+    ExpectAll(rows);
     ExpectFailures({"Sin(0", "Sin(0)(1)", "Sin(1+)", "Sin((1)"});
 }
 
 // A(2,3) lies at flat index 3 * j + i; a first subscript past its bound
 // reaches into the next column, as long as the flat index is in range.
 TEST_F(EvaluatorTest, ArrayElementsAndMatrixFunctions) {
-    ExpectAll({{"A(1,0)", Value(3)},
-               {"A(x-4, y-1)", Value(4)},
-               {"A(,1)", Value(2)},
-               {"V(1)+V(2)*A(1,1)", Value(140)},
-               {"A(2,0)", Value(2)},
-               {"MatJ2(A)", Value(30)},
-               {"MatI1(A)", Value(5)},
-               {"MatI3(A)*2+1", Value(-3)},
-               {"matj2( A )", Value(30)}});
+    const std::pair<const char*, Outcome> rows[] = {
+        {"A(1,0)", Value(3)},     {"A(x-4, y-1)", Value(4)},
+        {"A(,1)", Value(2)},      {"V(1)+V(2)*A(1,1)", Value(140)},
+        {"A(2,0)", Value(2)},     {"MatJ2(A)", Value(30)},
+        {"MatI1(A)", Value(5)},   {"MatI3(A)*2+1", Value(-3)},
+        {"matj2( A )", Value(30)}};
+    ExpectAll(rows);
     ExpectFailures({"A(0,2)", "A(-1,0)", "V(3)", "V(1E300)", "A(0,0,0)", "V(q)", "MatJ2(Q)",
                     "MatJ2(A,B)", "MatJ2()", "Gauss(A)", "INVMAT(S)", "Gauss(S,B)", "MatxVec(W,B)",
                     "MatI3(W)"});

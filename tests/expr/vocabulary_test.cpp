@@ -91,24 +91,22 @@ TEST(ClassifyStatement, FirstKeywordInTableOrderAsAWholeWord) {
         const char* statement;
         std::int16_t code;
         const char* rest;
-    } rows[] = {
-        {"End If", kw::EndIf, ""},
-        {"EndIf", kw::EndIf, ""},
-        {"End", kw::End, ""},
-        {"EndFunction", kw::End, ""},
-        {"ExitFor", kw::ExitFor, ""},
-        {"Exit Function", kw::ExitFunction, ""},
-        {"CaseElse", kw::CaseElse, ""},
-        {"Case 1, 3", kw::Case, "1, 3"},
-        {"Else If x>1 Then", kw::ElseIf, "x>1 Then"},
-        {"Else", kw::Else, ""},
-        {"  for i=1 to 3", kw::For, "i=1 to 3"},
-        {"Return   x+1", kw::Return, "x+1"},
-        {"Format = 1", kw::kAssignmentCode, "Format = 1"},
-        {"Elsewhere = 3", kw::kAssignmentCode, "Elsewhere = 3"},
-        {"Do_it = 4", kw::kAssignmentCode, "Do_it = 4"},
-        {"", kw::kAssignmentCode, ""},
-    };
+    } rows[] = {{"End If", kw::EndIf, ""},
+                {"EndIf", kw::EndIf, ""},
+                {"End", kw::End, ""},
+                {"EndFunction", kw::End, ""},
+                {"ExitFor", kw::ExitFor, ""},
+                {"Exit Function", kw::ExitFunction, ""},
+                {"CaseElse", kw::CaseElse, ""},
+                {"Case 1, 3", kw::Case, "1, 3"},
+                {"Else If x>1 Then", kw::ElseIf, "x>1 Then"},
+                {"Else", kw::Else, ""},
+                {"  for i=1 to 3", kw::For, "i=1 to 3"},
+                {"Return   x+1", kw::Return, "x+1"},
+                {"Format = 1", kw::kAssignmentCode, "Format = 1"},
+                {"Elsewhere = 3", kw::kAssignmentCode, "Elsewhere = 3"},
+                {"Do_it = 4", kw::kAssignmentCode, "Do_it = 4"},
+                {"", kw::kAssignmentCode, ""}};
     for (const auto& row : rows) {
         std::string_view rest = "(unset)";
         EXPECT_EQ(ClassifyStatement(row.statement, rest), row.code) << '"' << row.statement << '"';
