@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -35,39 +36,35 @@ struct Driver : ::testing::Test {
     }
 };
 
-TEST_F(Driver, SecondRunWithoutChangesDoesNotAnalyseAgain) {
-    interpreter.SetProgramText(ProgramText({"Return 2", "End"}));
-    ASSERT_TRUE(Run());
-    ASSERT_TRUE(Run());
-    EXPECT_EQ(view.Count("Now Analising"), 1);
-    EXPECT_EQ(view.Count("Now Executing"), 2);
-    EXPECT_EQ(view.kai, "Result=2");
-}
-
-TEST_F(Driver, SettingTheSameTextKeepsTheAnalysis) {
+// A second run analyses again only when the text changed or the globals
+// were erased; setting the same text again keeps the analysis.
+TEST(DriverAnalysis, RepeatsOnlyAfterAChange) {
     const std::string text = ProgramText({"Return 2", "End"});
-    interpreter.SetProgramText(text);
-    ASSERT_TRUE(Run());
-    interpreter.SetProgramText(text);
-    ASSERT_TRUE(Run());
-    EXPECT_EQ(view.Count("Now Analising"), 1);
-}
-
-TEST_F(Driver, EditingTheTextAnalysesAgain) {
-    interpreter.SetProgramText(ProgramText({"Return 2", "End"}));
-    ASSERT_TRUE(Run());
-    interpreter.SetProgramText(ProgramText({"Return 3", "End"}));
-    ASSERT_TRUE(Run());
-    EXPECT_EQ(view.Count("Now Analising"), 2);
-    EXPECT_EQ(view.kai, "Result=3");
-}
-
-TEST_F(Driver, ErasingTheGlobalsAnalysesAgain) {
-    interpreter.SetProgramText(ProgramText({"Return 2", "End"}));
-    ASSERT_TRUE(Run());
-    interpreter.EraseGlobals();
-    ASSERT_TRUE(Run());
-    EXPECT_EQ(view.Count("Now Analising"), 2);
+    const struct {
+        const char* name;
+        std::function<void(Interpreter&)> between;
+        long analyses;
+        const char* kai;
+    } rows[] = {{"nothing", [](Interpreter&) {}, 1, "Result=2"},
+                {"same text", [&](Interpreter& i) { i.SetProgramText(text); }, 1, "Result=2"},
+                {"edited text",
+                 [](Interpreter& i) {
+                     i.SetProgramText(ProgramText({"Return 3", "End"}));
+                 },
+                 2, "Result=3"},
+                {"globals erased", [](Interpreter& i) { i.EraseGlobals(); }, 2, "Result=2"}};
+    for (const auto& row : rows) {
+        KaiHistoryView view;
+        Interpreter interpreter{view};
+        double re = 0.0, im = 0.0;
+        interpreter.SetProgramText(text);
+        ASSERT_TRUE(interpreter.RunProgram(re, im, true, true)) << row.name;
+        row.between(interpreter);
+        ASSERT_TRUE(interpreter.RunProgram(re, im, true, true)) << row.name;
+        EXPECT_EQ(view.Count("Now Analising"), row.analyses) << row.name;
+        EXPECT_EQ(view.Count("Now Executing"), 2) << row.name;
+        EXPECT_EQ(view.kai, row.kai) << row.name;
+    }
 }
 
 TEST_F(Driver, FailedAnalysisIsRepeatedOnTheNextRun) {
@@ -87,47 +84,33 @@ TEST_F(Driver, AnalysisOnlyEndsOnCodeError) {
     EXPECT_TRUE(interpreter.ProgramAnalysed());
 }
 
-TEST_F(Driver, ResultGivesRealAndImaginaryParts) {
-    interpreter.SetProgramText(ProgramText({"Return 3 - 4j", "End"}));
+TEST_F(Driver, ResultGivesBothPartsAndFollowsTheRoundedDisplay) {
+    interpreter.SetProgramText(ProgramText({"Return 1 / 3 - 4j", "End"}));
     ASSERT_TRUE(Run());
-    EXPECT_EQ(re, 3.0);
+    EXPECT_EQ(re, 1.0 / 3);
     EXPECT_EQ(im, -4.0);
-    EXPECT_EQ(view.kai, "Result=3-4j");
-}
-
-TEST_F(Driver, ResultFollowsTheRoundedDisplay) {
-    interpreter.SetProgramText(ProgramText({"Return 1 / 3", "End"}));
-    ASSERT_TRUE(Run());
-    EXPECT_EQ(view.kai, "Result=0.333333333333333");
+    EXPECT_EQ(view.kai, "Result=0.333333333333333-4j");
     view.rounded = true;
     ASSERT_TRUE(Run());
-    EXPECT_EQ(view.kai, "Result=0.333333");
+    EXPECT_EQ(view.kai, "Result=0.333333-4j");
 }
 
+// A comment after ":" makes no statement of its own; a line feed alone also
+// ends a line.
 TEST_F(Driver, ProgramListHoldsOneEntryPerStatement) {
-    interpreter.SetProgramText("a = 1 : b = 2 ' note\r\n\r\n  c = 3\r\nEnd");
+    interpreter.SetProgramText("a = 1 : b = 2 ' note\r\n\r\n  c = 3\nEnd");
     ASSERT_TRUE(Run());
     EXPECT_EQ(view.programList, (std::vector<std::string>{"a = 1", "b = 2", "c = 3", "End"}));
 }
 
-TEST_F(Driver, LineFeedAloneAlsoEndsALine) {
-    interpreter.SetProgramText("a = 4\nReturn a\nEnd");
-    ASSERT_TRUE(Run());
-    EXPECT_EQ(view.kai, "Result=4");
-}
-
-TEST_F(Driver, ErasingBeforeAnalysisRemovesImmediateGlobals) {
-    ASSERT_TRUE(interpreter.ImmediateLine("g = 5").ok);
-    interpreter.SetProgramText(ProgramText({"Return g", "End"}));
-    EXPECT_FALSE(Run(true));
-    EXPECT_EQ(interpreter.ImmediatePage().NumofMemory(), 0);
-}
-
-TEST_F(Driver, KeepingGlobalsLetsTheProgramReadThem) {
+TEST_F(Driver, ErasingTheGlobalsIsTheCallersChoice) {
     ASSERT_TRUE(interpreter.ImmediateLine("g = 5").ok);
     interpreter.SetProgramText(ProgramText({"Return g", "End"}));
     ASSERT_TRUE(Run(false));
     EXPECT_EQ(view.kai, "Result=5");
+    interpreter.SetProgramText(ProgramText({"Return g + 1", "End"}));
+    EXPECT_FALSE(Run(true));
+    EXPECT_EQ(interpreter.ImmediatePage().NumofMemory(), 0);
 }
 
 // A function named like the global page is refused; the globals stay.

@@ -14,52 +14,30 @@ namespace {
 
 // ---- Names and the case switch
 
-struct CaseRow {
-    const char* name;
-    bool caseSensitive;
-    std::vector<std::string> variables;  // Main's memory after the run, in order
-    const char* result;
-};
-
-class CaseSwitch : public ::testing::TestWithParam<CaseRow> {};
-
-TEST_P(CaseSwitch, DecidesWhetherSpellingsShareAVariable) {
-    const CaseRow& row = GetParam();
+// With the case switch off, the second spelling finds the first variable,
+// whose stored name keeps the first spelling (the values are checked by the
+// program files).
+TEST(CaseSwitch, OffKeepsTheFirstSpelling) {
     Session s;
-    s.interpreter.SetCaseSensitive(row.caseSensitive);
+    s.interpreter.SetCaseSensitive(false);
     ASSERT_TRUE(s.Run({"a = 1", "A = A + 5", "Return a", "End"}));
-    EXPECT_EQ(s.view.kai, row.result);
-    std::vector<std::string> names;
-    for (std::int16_t k = 0; k < s.Main().NumofMemory(); ++k)
-        names.push_back(s.Main().MemoryName(k));
-    EXPECT_EQ(names, row.variables);
+    ASSERT_EQ(s.Main().NumofMemory(), 1);
+    EXPECT_EQ(s.Main().MemoryName(0), "a");
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Memory, CaseSwitch,
-    ::testing::Values(CaseRow{"On", true, {"a", "A"}, "Result=1"},
-                      // The second spelling finds the first variable, whose name is kept.
-                      CaseRow{"Off", false, {"a"}, "Result=6"}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 // ---- Declarations
 
-TEST(Declaration, RepeatedWithTheSameShapeKeepsTheValues) {
-    Session s;
-    ASSERT_TRUE(s.Line("Dim A(3)").ok);
-    ASSERT_TRUE(s.Line("A(2) = 7").ok);
-    EXPECT_TRUE(s.Line("Dim A(3)").ok);
-    EXPECT_EQ(s.Global().NumofMemory(), 1);
-    EXPECT_EQ(s.Line("A(2)").value.Re, 7.0);
-}
-
-TEST(Declaration, NeverReshapesAVariable) {
+// Dim A(3) twice keeps A's values; any other shape afterwards fails.
+TEST(Declaration, RepeatedKeepsTheValuesButNeverReshapes) {
     for (const char* other : {"Dim A(4)", "Dim A(3,0)", "Dim A"}) {
         Session s;
         ASSERT_TRUE(s.Line("Dim A(3)").ok);
+        ASSERT_TRUE(s.Line("A(2) = 7").ok);
+        EXPECT_TRUE(s.Line("Dim A(3)").ok);
         EXPECT_FALSE(s.Line(other).ok) << other;
+        EXPECT_EQ(s.Global().NumofMemory(), 1);
         EXPECT_EQ(s.Global().MemoryLn(0), 3) << other;
-        EXPECT_EQ(s.Global().MemoryTyp(0), 1) << other;
+        EXPECT_EQ(s.Line("A(2)").value.Re, 7.0);
     }
 }
 
@@ -69,16 +47,6 @@ TEST(Declaration, ItemsBeforeAFailingOneStayDeclared) {
     EXPECT_FALSE(s.Line("Dim A(2), B(5), C").ok);
     EXPECT_EQ(Session::IndexOf(s.Global(), "A"), 1);
     EXPECT_EQ(Session::IndexOf(s.Global(), "C"), -1);
-}
-
-TEST(Declaration, MatrixShape) {
-    Session s;
-    ASSERT_TRUE(s.Line("Dim A(2,3)").ok);
-    ClsCode& g = s.Global();
-    EXPECT_EQ(g.MemoryTyp(0), 2);
-    EXPECT_EQ(g.MemoryNI(0), 2);
-    EXPECT_EQ(g.MemoryNJ(0), 3);
-    EXPECT_EQ(g.MemoryLn(0), 11);
 }
 
 // Sizes beyond the 16-bit range fail instead of wrapping to a small array.
@@ -105,82 +73,58 @@ TEST(Declaration, ParameterNameCannotBeDeclared) {
 
 constexpr std::int32_t kComputeFlat = 65535;
 
-struct ElementRow {
-    const char* name;
-    std::int16_t i, j;
-    std::int32_t flat;  // as passed
-    bool ok;
-    std::int32_t flatAfter;  // as written back
-};
-
-class DirectElement : public ::testing::TestWithParam<ElementRow> {};
-
-// A(2,3): NI 2, NJ 3, Ln 11; element (i, j) at 3 * j + i.
-TEST_P(DirectElement, SetThenGet) {
-    const ElementRow& row = GetParam();
-    Session s;
-    ASSERT_TRUE(s.Line("Dim A(2,3)").ok);
-    ClsCode& g = s.Global();
-    std::int32_t flat = row.flat;
-    EXPECT_EQ(g.AzVariableValueDirectSet(0, row.i, row.j, flat, 5.0, -1.0), row.ok);
-    EXPECT_EQ(flat, row.flatAfter);
-    for (std::int32_t k = 0; k <= 11; ++k) {
-        double re = 0.0, im = 0.0;
-        std::int32_t at = k;
-        ASSERT_TRUE(g.AVariableValueDirectGet(0, 0, 0, at, re, im));
-        const bool written = row.ok && k == row.flatAfter;
-        EXPECT_EQ(re, written ? 5.0 : 0.0) << "flat " << k;
-        EXPECT_EQ(im, written ? -1.0 : 0.0) << "flat " << k;
+// A(2,3): NI 2, NJ 3, Ln 11; element (i, j) at 3 * j + i. A flat index of
+// -1 or above 65534 asks for it to be computed from the subscripts; only
+// the flat index is checked against the end.
+TEST(DirectElement, SetThenGet) {
+    const struct {
+        std::int16_t i, j;
+        std::int32_t flat;  // as passed
+        bool ok;
+        std::int32_t flatAfter;  // as written back
+    } rows[] = {{2, 3, kComputeFlat, true, 11},
+                {3, 0, kComputeFlat, true, 3},
+                {0, 4, kComputeFlat, false, 12},
+                {1, 1, -1, true, 4},
+                {1, 2, 70000, true, 7},
+                {2, 3, 5, true, 5},
+                {0, 0, 12, false, 12}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << "(" << row.i << ", " << row.j << ") flat " << row.flat);
+        Session s;
+        ASSERT_TRUE(s.Line("Dim A(2,3)").ok);
+        ClsCode& g = s.Global();
+        ASSERT_EQ(g.MemoryTyp(0), 2);
+        ASSERT_EQ(g.MemoryLn(0), 11);
+        std::int32_t flat = row.flat;
+        EXPECT_EQ(g.AzVariableValueDirectSet(0, row.i, row.j, flat, 5.0, -1.0), row.ok);
+        EXPECT_EQ(flat, row.flatAfter);
+        for (std::int32_t k = 0; k <= 11; ++k) {
+            double re = 0.0, im = 0.0;
+            std::int32_t at = k;
+            ASSERT_TRUE(g.AVariableValueDirectGet(0, 0, 0, at, re, im));
+            const bool written = row.ok && k == row.flatAfter;
+            EXPECT_EQ(re, written ? 5.0 : 0.0) << "flat " << k;
+            EXPECT_EQ(im, written ? -1.0 : 0.0) << "flat " << k;
+        }
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Memory, DirectElement,
-    ::testing::Values(ElementRow{"LastElement", 2, 3, kComputeFlat, true, 11},
-                      ElementRow{"FirstSubscriptPastItsBound", 3, 0, kComputeFlat, true, 3},
-                      ElementRow{"PastTheEnd", 0, 4, kComputeFlat, false, 12},
-                      ElementRow{"MinusOneAlsoComputes", 1, 1, -1, true, 4},
-                      ElementRow{"AnyFlatAbove65534Computes", 1, 2, 70000, true, 7},
-                      ElementRow{"GivenFlatIgnoresSubscripts", 2, 3, 5, true, 5},
-                      ElementRow{"GivenFlatPastTheEnd", 0, 0, 12, false, 12}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-TEST(DirectElement, NegativeFlatIndexIsABoundsFault) {
+TEST(DirectElement, IndexesOutOfRangeAreBoundsFaults) {
     Session s;
     ASSERT_TRUE(s.Line("Dim A(2,3)").ok);
+    ClsCode& g = s.Global();
     double re = 0.0, im = 0.0;
     std::int32_t flat = -2;
-    EXPECT_THROW(s.Global().AVariableValueDirectGet(0, 0, 0, flat, re, im), RuntimeFault);
+    EXPECT_THROW(g.AVariableValueDirectGet(0, 0, 0, flat, re, im), RuntimeFault);
     flat = -2;
-    EXPECT_THROW(s.Global().AzVariableValueDirectSet(0, 0, 0, flat, 1.0, 0.0), RuntimeFault);
+    EXPECT_THROW(g.AzVariableValueDirectSet(0, 0, 0, flat, 1.0, 0.0), RuntimeFault);
     flat = kComputeFlat;  // (-1, 0) computes to -1, which is not "compute" again
-    EXPECT_THROW(s.Global().AzVariableValueDirectSet(0, -1, 0, flat, 1.0, 0.0), RuntimeFault);
-}
-
-TEST(DirectElement, VariableIndexOutOfRangeIsABoundsFault) {
-    Session s;
-    ASSERT_TRUE(s.Line("x = 1").ok);
-    double re = 0.0, im = 0.0;
-    std::int32_t flat = 0;
-    EXPECT_THROW(s.Global().AVariableValueDirectGet(1, 0, 0, flat, re, im), RuntimeFault);
-    EXPECT_THROW(s.Global().MemoryName(1), RuntimeFault);
-    EXPECT_THROW(s.Global().MemoryLn(-1), RuntimeFault);
-}
-
-TEST(MemoryInformation, GivesShapeAndFirstElement) {
-    Session s;
-    ASSERT_TRUE(s.Line("Dim V(2)").ok);
-    ASSERT_TRUE(s.Line("V(0) = 3 + 4j").ok);
-    std::string name;
-    std::int16_t typ = -1, ni = -1, nj = -1;
-    double re = 0.0, im = 0.0;
-    s.Global().AImidateGetMemoryInformation(0, name, typ, ni, nj, re, im);
-    EXPECT_EQ(name, "V");
-    EXPECT_EQ(typ, 1);
-    EXPECT_EQ(ni, 2);
-    EXPECT_EQ(nj, 0);
-    EXPECT_EQ(re, 3.0);
-    EXPECT_EQ(im, 4.0);
+    EXPECT_THROW(g.AzVariableValueDirectSet(0, -1, 0, flat, 1.0, 0.0), RuntimeFault);
+    flat = 0;
+    EXPECT_THROW(g.AVariableValueDirectGet(1, 0, 0, flat, re, im), RuntimeFault);
+    EXPECT_THROW(g.MemoryName(1), RuntimeFault);
+    EXPECT_THROW(g.MemoryLn(-1), RuntimeFault);
 }
 
 // ---- Erasing
@@ -215,23 +159,19 @@ TEST(Erase, AllMemoryOfAPage) {
 
 // ---- Where assignments create variables
 
-TEST(Creation, GlobalAssignedFirstInAFunctionCreatesNoLocal) {
+// A function's locals stay on its page; a global assigned first inside a
+// function is found and written, and no local is created for it.
+TEST(Creation, FunctionsWriteGlobalsAndKeepTheirLocals) {
     Session s;
     ASSERT_TRUE(s.Line("g = 1").ok);
-    ASSERT_TRUE(s.Run(
-        ProgramText({"Call SetG()", "End", "Function SetG()", "g = 7", "End Function"}), false));
-    EXPECT_EQ(s.interpreter.Page(1).NumofMemory(), 0);
-    EXPECT_EQ(s.Global().NumofMemory(), 1);
-    EXPECT_EQ(s.Line("g").value.Re, 7.0);
-}
-
-TEST(Creation, FunctionLocalsStayOnTheFunctionPage) {
-    Session s;
-    ASSERT_TRUE(
-        s.Run({"Return F(2)", "End", "Function F(x)", "t = x * 3", "F = t", "End Function"}));
+    ASSERT_TRUE(s.Run(ProgramText({"Return F(2)", "End", "Function F(x)", "g = 7", "t = x * 3",
+                                   "F = t", "End Function"}),
+                      false));
     EXPECT_EQ(s.view.kai, "Result=6");
     EXPECT_EQ(s.Main().NumofMemory(), 0);
-    EXPECT_EQ(s.Global().NumofMemory(), 0);
+    EXPECT_EQ(s.Global().NumofMemory(), 1);
+    EXPECT_EQ(s.Line("g").value.Re, 7.0);
+    EXPECT_EQ(s.interpreter.Page(1).NumofMemory(), 1);
     EXPECT_EQ(Session::IndexOf(s.interpreter.Page(1), "t"), 0);
 }
 
