@@ -13,14 +13,17 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "${LAPDESK_MAINTAINER}")
 set(CPACK_DEBIAN_PACKAGE_SECTION math)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Every text of the windows is Japanese.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-noto-cjk | fonts-ipafont-gothic | fonts-vlgothic")
+# Every text of the windows is Japanese, Qt's own dialog texts included.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
+  "fonts-noto-cjk | fonts-ipafont-gothic | fonts-vlgothic, qt6-translations-l10n")
 # The long description; CPack puts the summary above it.
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Laplace Desk computes f(t) from its Laplace transform F(s)
 numerically: F is sampled on a line parallel to the imaginary axis, optionally
 tapered by a Hanning window and inverted with a radix-2 FFT. F(p) is written
 as a short program in the tool's own complex-number language, or sampled
 values are read from a data file; f(t) is plotted and written as a table.
+An accurate mode (de Hoog, Knight and Stokes), an error band and a
+singularity warning show how far f(t) can be trusted.
 .
 The package holds the desktop application lapdesk (the transform window and
 the calculator window, Japanese user interface), the command-line tool

@@ -148,7 +148,7 @@ bool TesmorForm::eventFilter(QObject* watched, QEvent* event) {
     return QMainWindow::eventFilter(watched, event);
 }
 
-// The t and y under the cursor, in PosX, PosY and the floating label, which
+// The t (or k) and y under the cursor, in PosX, PosY and the floating label, which
 // follows the cursor and stays inside the plot.
 void TesmorForm::Scrn_MouseMove(QMouseEvent* event) {
     cursor_ = event->position();
@@ -165,7 +165,7 @@ void TesmorForm::ShowReadout() {
     const double y = scrn_->yAxis->pixelToCoord(cursor_.y());
     posX_->setText(QString::fromStdString(ReadoutXText(scrn_->view(), x, c.T, c.N)));
     posY_->setText(QString::fromStdString(ReadoutText("y= ", y)));
-    accuracy_->ShowReadout(driver_, t);
+    accuracy_->ShowReadout(driver_, x);  // x is t wherever the accurate values show
     floatLb_->setText(posX_->text() + QLatin1Char('\n') + posY_->text());
     floatLb_->adjustSize();
     QPoint place = cursor_.toPoint() + QPoint(14, 14);
