@@ -44,6 +44,8 @@ int RunFile(const RunOptions& options) {
     double im = 0.0;
     // Globals set by --let survive the analysis; otherwise they start empty.
     const bool ok = session.RunProgram(re, im, options.lets.empty(), true);
+    // A run ended by Ctrl+C says so; the answer field shows where it stood.
+    if (!ok && view.StopRequested()) std::cerr << "プログラム実行中断\n";
     std::cout << view.kai() << '\n';
     return ok ? 0 : 1;
 }
