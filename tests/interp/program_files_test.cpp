@@ -20,6 +20,7 @@
 
 #include "interp/interpreter.h"
 #include "interp/recording_view.h"
+#include "named_rows.h"
 #include "values/number_text.h"
 
 namespace lapdesk {
@@ -113,10 +114,6 @@ std::vector<ProgramFile> AllPrograms() {
     std::sort(programs.begin(), programs.end(),
               [](const ProgramFile& a, const ProgramFile& b) { return a.name < b.name; });
     return programs;
-}
-
-void PrintTo(const ProgramFile& program, std::ostream* os) {
-    *os << program.name;
 }
 
 class ProgramFiles : public ::testing::TestWithParam<ProgramFile> {};
