@@ -50,13 +50,6 @@ TEST_F(MemoryTest, ArrayPanelListsEveryElement) {
     EXPECT_TRUE(Find<QWidget>("CalcuFrame")->isEnabled());
 }
 
-TEST_F(MemoryTest, MatrixElementsRunOverJInsideI) {
-    DoubleClickRow(GlobalList(), 2);
-    EXPECT_EQ(Rows(Find<QListWidget>("ArryList")),
-              (QStringList{"(  0 ,  0 )=0", "(  0 ,  1 )=0", "(  0 ,  2 )=0", "(  1 ,  0 )=0",
-                           "(  1 ,  1 )=0", "(  1 ,  2 )=0"}));
-}
-
 TEST_F(MemoryTest, PageArrayCaptionNamesThePage) {
     DoubleClickRow(PageList(), 0);
     EXPECT_EQ(Find<QGroupBox>("FrmArryValues")->title(), QStringLiteral("Main 配列  B(1) の値"));

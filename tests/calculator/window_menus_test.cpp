@@ -88,16 +88,6 @@ TEST_F(MenusTest, CaseQuestion) {
     }
 }
 
-TEST_F(MenusTest, CaseSwitchDecidesWhetherNamesDiffer) {
-    TypeLine(QStringLiteral("abc = 5"));
-    TypeLine(QStringLiteral("ABC"));
-    EXPECT_EQ(Kai(), QStringLiteral("Error")) << "case-sensitive at start";
-    script->answers = {QMessageBox::No};
-    Action("MenuCaps")->trigger();
-    TypeLine(QStringLiteral("ABC"));
-    EXPECT_EQ(Kai(), QStringLiteral("5"));
-}
-
 TEST_F(MenusTest, ClearGlobalsQuestion) {
     const QString toKeep = QStringLiteral(
         "これ以後，大域変数を消去せずに，プログラムを解析します．\r\n"

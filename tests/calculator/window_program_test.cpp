@@ -40,17 +40,6 @@ TEST_F(ProgramTest, ModesShowTheirControls) {
     EXPECT_TRUE(Find<QWidget>("FrameKeyBoard")->isVisible());
 }
 
-TEST_F(ProgramTest, RunShowingTheProgramText) {
-    SetProgram(kSum);
-    Click("ButtonPrgRun");
-    EXPECT_EQ(Kai(), QStringLiteral("Result=55"));
-    EXPECT_TRUE(Editor()->isVisible());
-    EXPECT_FALSE(Find<QWidget>("ProgramList")->isVisible());
-    EXPECT_EQ(Find<QPushButton>("ButtonPrgRun")->text(), QStringLiteral("実　行"));
-    EXPECT_EQ(Action("MenueExeList")->text(), QStringLiteral("実行リスト表示"));
-    EXPECT_TRUE(messages.isEmpty()) << messages.join('\n').toStdString();
-}
-
 TEST_F(ProgramTest, RunShowingTheExecutionList) {
     SetProgram(kSum);
     Find<QCheckBox>("CheckExeList")->setChecked(true);
@@ -184,16 +173,6 @@ TEST_F(ProgramTest, MenueExeErasesGlobalsButTheRunButtonDoesNot) {
     Editor()->setPlainText(QStringLiteral("Return q \nEnd"));
     Click("ButtonPrgRun");
     EXPECT_EQ(Kai(), QStringLiteral("Result=7"));
-}
-
-TEST_F(ProgramTest, ClearGlVarMakesTheRunButtonEraseGlobals) {
-    script->answers = {QMessageBox::Yes};
-    Action("MenueClearGlVar")->trigger();
-    ASSERT_TRUE(Action("MenueClearGlVar")->isChecked());
-    TypeLine(QStringLiteral("q = 7"));
-    SetProgram(QStringLiteral("Return 1\nEnd"));
-    Click("ButtonPrgRun");
-    EXPECT_EQ(window->interpreter().ImmediatePage().NumofMemory(), 0);
 }
 
 TEST_F(ProgramTest, MeterResetsToTicksAndGrows) {
