@@ -175,16 +175,5 @@ TEST(Creation, FunctionsWriteGlobalsAndKeepTheirLocals) {
     EXPECT_EQ(Session::IndexOf(s.interpreter.Page(1), "t"), 0);
 }
 
-TEST(Creation, MainVariablesSurviveBetweenRuns) {
-    Session s;
-    const std::string text = ProgramText({"n = n + 1", "Return n", "End"});
-    ASSERT_TRUE(s.Run(text));
-    ASSERT_TRUE(s.Run(text));
-    EXPECT_EQ(s.view.kai, "Result=2");
-    // A changed text builds the pages again, with fresh memory.
-    ASSERT_TRUE(s.Run(text + "\r\n"));
-    EXPECT_EQ(s.view.kai, "Result=1");
-}
-
 }  // namespace
 }  // namespace lapdesk

@@ -121,12 +121,8 @@ TEST(BottomLine, IsTheFinalEnd) {
     const struct {
         std::vector<const char*> lines;
         bool closed;
-    } rows[] = {{{}, false},
-                {{"a = 1", "End"}, true},
-                {{"End Function"}, true},
-                {{"end"}, true},
-                {{"End If"}, false},
-                {{"End", "a = 1"}, false},
+    } rows[] = {{{}, false},          {{"a = 1", "End"}, true}, {{"End Function"}, true},
+                {{"end"}, true},      {{"End If"}, false},      {{"End", "a = 1"}, false},
                 {{"Endx = 1"}, false}};
     for (const auto& row : rows) {
         Session s;

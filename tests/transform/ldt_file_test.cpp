@@ -103,10 +103,6 @@ TEST(TransformFile, FailedSaveKeepsTheOldFile) {
     EXPECT_NE(unencodable.reason.find("U+20AC"), std::string::npos) << unencodable.reason;
     EXPECT_EQ(log.texts.back(), "データ書きみ失敗");
     EXPECT_EQ(ReadBytes(file), "old");
-
-    const Outcome missingFolder = WriteTransformFile(driver, folder / "none" / "x.Ldt", "");
-    EXPECT_FALSE(missingFolder.ok);
-    EXPECT_EQ(log.texts.back(), "データ書きみ失敗");
 }
 
 TEST(TransformFile, WithoutAValidResultNothingIsWritten) {

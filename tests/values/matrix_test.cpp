@@ -121,15 +121,6 @@ TEST(MatrixInvariants, NonSquareOrFaultingInputFails) {
     EXPECT_EQ(result, (Complex{99, 99}));
 }
 
-TEST(MatrixProducts, MatrixTimesVectorAndMatrix) {
-    const ComplexArray a = Real({{1, 2, 3}, {4, 5, 6}});
-    ComplexArray c;
-    ASSERT_TRUE(MatxVec(a, VectorOf({{1, 0}, {0, 1}, {1, 0}}), c));
-    EXPECT_TRUE(SameArray(c, VectorOf({{4, 2}, {10, 5}}), 0));
-    ASSERT_TRUE(MatxMat(a, Real({{1, 0}, {0, 1}, {1, 1}}), c));
-    EXPECT_TRUE(SameArray(c, Real({{4, 5}, {10, 11}}), 0));
-}
-
 TEST(MatrixProducts, ShapeMismatchFailsAndKeepsTheTarget) {
     const ComplexArray a = ComplexArray::Matrix(2, 3);
     const ComplexArray untouched = VectorOf({{42, 0}});
