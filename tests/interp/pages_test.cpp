@@ -86,22 +86,6 @@ TEST(StoredLines, StoringPastTheEndAppends) {
     EXPECT_EQ(lnNo, 9);
 }
 
-TEST(StoredLines, ThePageRunsWhatItStoresAndAnalysesAgainAfterAChange) {
-    Session s;
-    ClsCode page(s.interpreter);
-    page.SetPageName("Scratch");
-    page.SetCode(0, 0, "a = 6");
-    page.SetCode(1, 1, "Return a * 7");
-    page.SetCode(2, 2, "End");
-    double re = 0.0, im = 0.0;
-    ASSERT_TRUE(page.APc02CodeExecute(re, im));
-    EXPECT_EQ(re, 42.0);
-    EXPECT_TRUE(page.Analized());
-    page.SetCode(0, 0, "a = 2");
-    EXPECT_FALSE(page.Analized());
-    EXPECT_TRUE(s.view.messages.empty());
-}
-
 TEST(StoredLines, AnalysisWithoutTheFinalEndFails) {
     Session s;
     ClsCode page(s.interpreter);
