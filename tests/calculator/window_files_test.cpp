@@ -44,13 +44,6 @@ TEST_F(FilesTest, SaveAndReadBackInCp932WithCrLf) {
     EXPECT_EQ(Kai(), QStringLiteral("Result=3")) << "the text read is the program run";
 }
 
-TEST_F(FilesTest, MissingFileLeavesTheTextAndRecordsWhy) {
-    SetProgram(QStringLiteral("End"));
-    window->ReadTextFile(folder.filePath(QStringLiteral("none.Prg")), Editor());
-    EXPECT_EQ(Editor()->toPlainText(), QStringLiteral("End"));
-    EXPECT_NE(window->FileErrorText(), QString());
-}
-
 TEST_F(FilesTest, OverwriteQuestion) {
     const QString path = folder.filePath(QStringLiteral("b.Prg"));
     SetProgram(QStringLiteral("Return 1\nEnd"));
@@ -77,11 +70,14 @@ TEST_F(FilesTest, OverwriteQuestion) {
     EXPECT_EQ(script->questions.size(), 2);
 }
 
-TEST_F(FilesTest, CancelledDialogDoesNothing) {
+TEST_F(FilesTest, CancelledDialogOrMissingFileLeavesTheText) {
     SetProgram(QStringLiteral("End"));
     Action("MenueReadProgram")->trigger();
     EXPECT_EQ(Editor()->toPlainText(), QStringLiteral("End"));
     EXPECT_EQ(window->ProgramFileName(), QString());
+    window->ReadTextFile(folder.filePath(QStringLiteral("none.Prg")), Editor());
+    EXPECT_EQ(Editor()->toPlainText(), QStringLiteral("End"));
+    EXPECT_NE(window->FileErrorText(), QString());
     QString name = QStringLiteral("x.Prg");
     EXPECT_FALSE(window->SetFileNameCAL(name, 5)) << "an unknown mode fails at once";
     EXPECT_EQ(name, QStringLiteral("x.Prg"));

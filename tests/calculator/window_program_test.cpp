@@ -1,9 +1,8 @@
-// Modes, program runs in both display modes, stopping, and errors of a run.
+// Modes, program runs in both display modes, stopping, and analysis.
 #include <QApplication>
 #include <QCheckBox>
 #include <QMenu>
 
-#include "calculator/code_editor.h"
 #include "calculator/progress_meter.h"
 #include "window_fixture.h"
 
@@ -106,32 +105,6 @@ TEST_F(ProgramTest, StopEndsARunawayLoop) {
     Editor()->setPlainText(QStringLiteral("Return 1\nEnd"));
     Click("ButtonPrgRun");
     EXPECT_EQ(Kai(), QStringLiteral("Result=1")) << "the next run starts afresh";
-}
-
-TEST_F(ProgramTest, AnalysisErrorIsShownAndItsLineMarked) {
-    SetProgram(QStringLiteral("' 和\ns = 0\n\nFor i = 1 To 3\n  s = s + i\nReturn s\nEnd"));
-    Click("ButtonPrgRun");
-    ASSERT_EQ(messages.size(), 1);
-    EXPECT_TRUE(messages[0].startsWith(QStringLiteral("Main: 2行目解析エラー\nFor i = 1 To 3:")))
-        << messages[0].toStdString();
-    EXPECT_FALSE(buttonsWhileWaiting);
-    EXPECT_FALSE(fileMenuWhileWaiting);
-    EXPECT_TRUE(Find<QWidget>("ProgramButtons")->isEnabled());
-    EXPECT_FALSE(Find<QWidget>("MessageBase")->isVisible());
-    auto* editor = Find<CodeEditor>("ProgramText");
-    EXPECT_EQ(editor->errorLine(), 3);
-    QTest::keyClick(editor, Qt::Key_Space);
-    EXPECT_EQ(editor->errorLine(), -1) << "an edit removes the mark";
-}
-
-TEST_F(ProgramTest, RunErrorMarksTheStatementInAFunction) {
-    // The function's own failure comes first; Main's failing call after it.
-    SetProgram(QStringLiteral(
-        "Return F(0)\nEnd\nFunction F(x)\n  y = 1 : z = w + 1\n  Return z\nEnd Function"));
-    Click("ButtonPrgRun");
-    ASSERT_EQ(messages.size(), 2);
-    EXPECT_TRUE(messages[0].startsWith(QStringLiteral("F: 3行目実行エラー\nz = w + 1")));
-    EXPECT_EQ(Find<CodeEditor>("ProgramText")->errorLine(), 3) << messages.join('\n').toStdString();
 }
 
 TEST_F(ProgramTest, AnEditForcesAFreshAnalysis) {

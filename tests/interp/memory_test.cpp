@@ -27,11 +27,15 @@ TEST(CaseSwitch, OffKeepsTheFirstSpelling) {
 
 // ---- Declarations
 
-// Dim A(3) twice keeps A's values; any other shape afterwards fails.
+// Dim A(3) declares the elements 0..3. Declared twice it keeps A's values;
+// any other shape afterwards fails.
 TEST(Declaration, RepeatedKeepsTheValuesButNeverReshapes) {
     for (const char* other : {"Dim A(4)", "Dim A(3,0)", "Dim A"}) {
         Session s;
         ASSERT_TRUE(s.Line("Dim A(3)").ok);
+        EXPECT_EQ(s.Global().MemoryTyp(0), 1);
+        EXPECT_TRUE(s.Line("A(3) = 5").ok);
+        EXPECT_FALSE(s.Line("A(4) = 5").ok);
         ASSERT_TRUE(s.Line("A(2) = 7").ok);
         EXPECT_TRUE(s.Line("Dim A(3)").ok);
         EXPECT_FALSE(s.Line(other).ok) << other;
