@@ -21,6 +21,10 @@ struct FailedRun {
     int editorLine;     // 0-based line the editor marks
 };
 
+void PrintTo(const FailedRun& row, std::ostream* os) {
+    *os << row.name;
+}
+
 class FailedRunTest : public WindowTest, public ::testing::WithParamInterface<FailedRun> {};
 
 // The message waits with the program buttons and the file menu disabled;
