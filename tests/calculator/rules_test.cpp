@@ -62,16 +62,12 @@ TEST(ImmediateRules, HistoryEntriesAndRecall) {
     EXPECT_EQ(RecallFromHistory(QStringLiteral(" text ")), QStringLiteral("text"));
 }
 
-TEST(ImmediateRules, ZoomAndShiftState) {
+TEST(ImmediateRules, ZoomStopsAtNine) {
     EXPECT_EQ(ZoomedPointSize(12, false), 13);
     EXPECT_EQ(ZoomedPointSize(12, true), 11);
     EXPECT_EQ(ZoomedPointSize(10, true), 9);
     EXPECT_EQ(ZoomedPointSize(9, true), 9);
     EXPECT_EQ(ZoomedPointSize(7, true), 7);
-    EXPECT_EQ(ShiftState(Qt::ShiftModifier), kShiftOnly);
-    EXPECT_EQ(ShiftState(Qt::ControlModifier), kCtrlOnly);
-    EXPECT_EQ(ShiftState(Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier), 7);
-    EXPECT_EQ(ShiftState(Qt::KeypadModifier), 0);
 }
 
 TEST(ErrorLocation, ReadsPageAndStatement) {

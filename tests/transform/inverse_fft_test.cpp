@@ -82,28 +82,6 @@ TEST_P(FftAgainstDft, ForwardAndInverseMatchTheDefinition) {
 
 INSTANTIATE_TEST_SUITE_P(Sizes, FftAgainstDft, testing::Values(4, 8, 16, 128, 1024, 4096));
 
-TEST(IfftToReal, WeightsTheRealPartWithTheDamping) {
-    const int n = 128;
-    for (const double gamma0 : {0.0, 3.0}) {
-        TransformBlock block = BlockOf(n);
-        TransformBlock reference = BlockOf(n);
-        for (int j = 0; j < n; ++j)
-            block.Data[j] = reference.Data[j] = SignalAt(j);
-        block.Gamma0 = gamma0;
-        std::vector<double> out(n);
-        IfftToReal(out, block);
-        CplIfft(reference);
-        for (int k = 0; k < n; ++k) {
-            ASSERT_EQ(block.Data[k], reference.Data[k]);  // Data keeps the inverse transform
-            const double expected = std::exp(k * gamma0 / n) * reference.Data[k].Re;
-            ASSERT_DOUBLE_EQ(out[k], expected) << "gamma0 " << gamma0 << " k " << k;
-            if (gamma0 == 0.0) {
-                ASSERT_EQ(out[k], reference.Data[k].Re);
-            }
-        }
-    }
-}
-
 TEST(IfftToReal, ExpOverflowIsARuntimeFault) {
     TransformBlock block = BlockOf(128);
     std::fill_n(block.Data.begin(), 128, Complex{1, 0});
