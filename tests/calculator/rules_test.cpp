@@ -26,12 +26,10 @@ TEST(MenuWords, CaptionsCutAsEachMenuCutsThem) {
         {"const comma before colon", &ConstantWord, " a：b,c ", "a：b", 0},
         {"const neither", &ConstantWord, "  If  Then ", "If  Then", 0},
         {"const comma keeps blank", &ConstantWord, "ExitFor , Exit For", "ExitFor ", 0},
-        {"dm constant", &DmConstantWord, " DT:間隔", " DT", 0},
+        {"dm constant keeps its blank", &DmConstantWord, " DT:間隔", " DT", 0},
         {"dm constant no colon", &DmConstantWord, "DT", "DT", 0},
         {"function", &FunctionWord, " Atan() , Atn()", "Atan()", 1},
         {"function without bracket", &FunctionWord, " Sin ", "Sin", 0},
-        {"channel colon", &ChannelWord, "  Ch1:入力", "Ch1", 0},
-        {"channel bracket", &ChannelWord, " Vp(1):入力", "Vp()", 1},
         {"channel colon first", &ChannelWord, "Ch:a(1)", "Ch", 0},
         {"channel plain", &ChannelWord, "  Ch3 ", "Ch3 ", 0},
     };
