@@ -27,36 +27,12 @@ TEST_F(MemoryLinesTest, OneLinePerVariable) {
     EXPECT_EQ(MemoryLine(Globals(), 0, true), "x=0.333333");
 }
 
-TEST_F(MemoryLinesTest, EmptyPageHasNoLines) {
-    EXPECT_TRUE(MemoryLines(Globals(), false).empty());
-}
-
-TEST_F(MemoryLinesTest, VectorElements) {
-    Run("Dim V(3)");
-    Run("V(1) = 2+1j");
-    EXPECT_EQ(ArrayElementLines(Globals(), 0, false),
-              (std::vector<std::string>{"(  0 )=0", "(  1 )=2+1j", "(  2 )=0", "(  3 )=0"}));
-}
-
 TEST_F(MemoryLinesTest, MatrixElementsWithJInsideI) {
     Run("Dim M(1,1)");
     Run("M(1,0) = 7");
     EXPECT_EQ(ArrayElementLines(Globals(), 0, false),
               (std::vector<std::string>{"(  0 ,  0 )=0", "(  0 ,  1 )=0", "(  1 ,  0 )=7",
                                         "(  1 ,  1 )=0"}));
-}
-
-TEST_F(MemoryLinesTest, ScalarHasNoElementLines) {
-    Run("x = 1");
-    EXPECT_TRUE(ArrayElementLines(Globals(), 0, false).empty());
-}
-
-TEST_F(MemoryLinesTest, LongIndicesKeepTheirLastThreeDigits) {
-    Run("Dim V(1234)");
-    const std::vector<std::string> lines = ArrayElementLines(Globals(), 0, false);
-    ASSERT_EQ(lines.size(), 1235u);
-    EXPECT_EQ(lines[999], "(999 )=0");
-    EXPECT_EQ(lines[1234], "(234 )=0");
 }
 
 TEST(ArrayIndexText, RightAlignedInThree) {

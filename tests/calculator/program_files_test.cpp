@@ -49,13 +49,21 @@ TEST_F(ProgramFilesTest, TrailingBreakGetsOneMoreAndReadsBackWithoutIt) {
     EXPECT_EQ(ReadProgramFile(path).text, QStringLiteral("End\r\n"));
 }
 
-TEST_F(ProgramFilesTest, ReadsLfAndUtf8Files) {
-    const QString path = Path("lf");
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("' \xe5\xa4\x89\xe6\x95\xb0\nEnd\n");
-    file.close();
-    EXPECT_EQ(ReadProgramFile(path).text, QStringLiteral("' 変数\r\nEnd"));
+TEST_F(ProgramFilesTest, ReadsLfUtf8AndEmptyFiles) {
+    const struct {
+        const char* name;
+        QByteArray bytes;
+        const char* text;
+    } rows[] = {{"lf", QByteArray("' \xe5\xa4\x89\xe6\x95\xb0\nEnd\n"), "' 変数\r\nEnd"},
+                {"bom", QByteArray("\xef\xbb\xbfReturn 2\r\nEnd\r\n"), "Return 2\r\nEnd"},
+                {"empty", QByteArray(), ""}};
+    for (const auto& row : rows) {
+        QFile file(Path(row.name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(row.bytes);
+        file.close();
+        EXPECT_EQ(ReadProgramFile(Path(row.name)).text, QString::fromUtf8(row.text)) << row.name;
+    }
 }
 
 TEST_F(ProgramFilesTest, FailuresComeBackAsReasons) {

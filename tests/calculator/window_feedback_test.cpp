@@ -1,4 +1,4 @@
-// What the window tells and where the focus goes: an abnormal end named and
+// What the window tells and where the focus goes: a failed run named and
 // marked at its line, the running line numbered as the editor numbers it, a
 // stopped run told apart from a failed one, the focus after Enter and in
 // program mode, and a waiting message that keeps keys out of the program.
@@ -13,35 +13,53 @@ namespace {
 
 using FeedbackTest = WindowTest;
 
-struct AbnormalEnd {
+struct FailedRun {
     const char* name;
     const char* program;
-    const char* location;  // the line the message adds
-    int editorLine;        // 0-based line the editor marks
+    const char* start;  // the first message starts with this
+    const char* end;    // and ends with this
+    int editorLine;     // 0-based line the editor marks
 };
 
-class AbnormalEndTest : public WindowTest, public ::testing::WithParamInterface<AbnormalEnd> {};
+void PrintTo(const FailedRun& row, std::ostream* os) {
+    *os << row.name;
+}
 
-TEST_P(AbnormalEndTest, NamesAndMarksItsLine) {
-    const AbnormalEnd& row = GetParam();
+class FailedRunTest : public WindowTest, public ::testing::WithParamInterface<FailedRun> {};
+
+// The message waits with the program buttons and the file menu disabled;
+// an edit removes the mark.
+TEST_P(FailedRunTest, NamesAndMarksItsLine) {
+    const FailedRun& row = GetParam();
     SetProgram(QString::fromUtf8(row.program));
     Click("ButtonPrgRun");
     ASSERT_GE(messages.size(), 1);
-    EXPECT_TRUE(messages[0].startsWith(QStringLiteral("実行時異常終了\n")))
-        << messages[0].toStdString();
-    EXPECT_TRUE(messages[0].endsWith(QStringLiteral("\n") + QString::fromUtf8(row.location)))
-        << messages[0].toStdString();
-    EXPECT_EQ(Find<CodeEditor>("ProgramText")->errorLine(), row.editorLine);
+    EXPECT_TRUE(messages[0].startsWith(QString::fromUtf8(row.start))) << messages[0].toStdString();
+    EXPECT_TRUE(messages[0].endsWith(QString::fromUtf8(row.end))) << messages[0].toStdString();
+    EXPECT_FALSE(buttonsWhileWaiting);
+    EXPECT_FALSE(fileMenuWhileWaiting);
+    EXPECT_TRUE(Find<QWidget>("ProgramButtons")->isEnabled());
+    EXPECT_FALSE(Find<QWidget>("MessageBase")->isVisible());
+    auto* editor = Find<CodeEditor>("ProgramText");
+    EXPECT_EQ(editor->errorLine(), row.editorLine);
+    QTest::keyClick(editor, Qt::Key_Space);
+    EXPECT_EQ(editor->errorLine(), -1);
 }
 
+// A function's own failure comes before Main's failing call.
 INSTANTIATE_TEST_SUITE_P(
-    Runs, AbnormalEndTest,
+    Runs, FailedRunTest,
     ::testing::Values(
-        AbnormalEnd{"DivisionInMain", "' 割り算\na = 0\n\nb = 1 / a\nEnd", "Main: 2行目: b = 1 / a",
-                    3},
-        AbnormalEnd{"OverflowInAFunction",
-                    "Return F(1000)\nEnd\nFunction F(x)\n  y = 1\n  Return Exp(x)\nEnd Function",
-                    "F: 3行目: Return Exp(x)", 4}),
+        FailedRun{"AnalysisError", "' 和\ns = 0\n\nFor i = 1 To 3\n  s = s + i\nReturn s\nEnd",
+                  "Main: 2行目解析エラー\nFor i = 1 To 3:", "", 3},
+        FailedRun{"RunErrorInAFunction",
+                  "Return F(0)\nEnd\nFunction F(x)\n  y = 1 : z = w + 1\n  Return z\nEnd Function",
+                  "F: 3行目実行エラー\nz = w + 1", "", 3},
+        FailedRun{"DivisionInMain", "' 割り算\na = 0\n\nb = 1 / a\nEnd", "実行時異常終了\n",
+                  "\nMain: 2行目: b = 1 / a", 3},
+        FailedRun{"OverflowInAFunction",
+                  "Return F(1000)\nEnd\nFunction F(x)\n  y = 1\n  Return Exp(x)\nEnd Function",
+                  "実行時異常終了\n", "\nF: 3行目: Return Exp(x)", 4}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(FeedbackTest, TheRunningLineIsNumberedAsTheEditorNumbersIt) {

@@ -44,45 +44,6 @@ TEST_F(FilesTest, SaveAndReadBackInCp932WithCrLf) {
     EXPECT_EQ(Kai(), QStringLiteral("Result=3")) << "the text read is the program run";
 }
 
-TEST_F(FilesTest, TrailingLineBreakGetsOneMoreAndReadsBack) {
-    const QString path = folder.filePath(QStringLiteral("a.Prg"));
-    SetProgram(QStringLiteral("Return 1\nEnd\n"));
-    window->WriteTextFile(path, Editor());
-    EXPECT_EQ(Bytes(path), QByteArray("Return 1\r\nEnd\r\n\r\n"));
-    Editor()->clear();
-    window->ReadTextFile(path, Editor());
-    EXPECT_EQ(Editor()->toPlainText(), QStringLiteral("Return 1\nEnd\n"));
-}
-
-TEST_F(FilesTest, Utf8FilesAndEmptyFilesRead) {
-    const struct {
-        const char* name;
-        QByteArray bytes;
-        const char* text;
-    } rows[] = {
-        {"utf8.Prg", QByteArray("' \xe5\x92\x8c\nEnd"), "' 和\nEnd"},
-        {"bom.Prg", QByteArray("\xef\xbb\xbfReturn 2\r\nEnd\r\n"), "Return 2\nEnd"},
-        {"empty.Prg", QByteArray(), ""},
-    };
-    for (const auto& row : rows) {
-        const QString path = folder.filePath(QString::fromLatin1(row.name));
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(row.bytes);
-        file.close();
-        Editor()->setPlainText(QStringLiteral("old"));
-        window->ReadTextFile(path, Editor());
-        EXPECT_EQ(Editor()->toPlainText(), QString::fromUtf8(row.text)) << row.name;
-    }
-}
-
-TEST_F(FilesTest, MissingFileLeavesTheTextAndRecordsWhy) {
-    SetProgram(QStringLiteral("End"));
-    window->ReadTextFile(folder.filePath(QStringLiteral("none.Prg")), Editor());
-    EXPECT_EQ(Editor()->toPlainText(), QStringLiteral("End"));
-    EXPECT_NE(window->FileErrorText(), QString());
-}
-
 TEST_F(FilesTest, OverwriteQuestion) {
     const QString path = folder.filePath(QStringLiteral("b.Prg"));
     SetProgram(QStringLiteral("Return 1\nEnd"));
@@ -109,11 +70,14 @@ TEST_F(FilesTest, OverwriteQuestion) {
     EXPECT_EQ(script->questions.size(), 2);
 }
 
-TEST_F(FilesTest, CancelledDialogDoesNothing) {
+TEST_F(FilesTest, CancelledDialogOrMissingFileLeavesTheText) {
     SetProgram(QStringLiteral("End"));
     Action("MenueReadProgram")->trigger();
     EXPECT_EQ(Editor()->toPlainText(), QStringLiteral("End"));
     EXPECT_EQ(window->ProgramFileName(), QString());
+    window->ReadTextFile(folder.filePath(QStringLiteral("none.Prg")), Editor());
+    EXPECT_EQ(Editor()->toPlainText(), QStringLiteral("End"));
+    EXPECT_NE(window->FileErrorText(), QString());
     QString name = QStringLiteral("x.Prg");
     EXPECT_FALSE(window->SetFileNameCAL(name, 5)) << "an unknown mode fails at once";
     EXPECT_EQ(name, QStringLiteral("x.Prg"));

@@ -8,16 +8,6 @@ namespace {
 
 using MenusTest = WindowTest;
 
-TEST_F(MenusTest, FunctionEntryLeavesTheCaretInsideTheBrackets) {
-    Immediate()->setFocus();
-    Action("MenueFunction_0")->trigger();  // "Sin()"
-    EXPECT_EQ(Immediate()->text(), QStringLiteral("Sin()"));
-    EXPECT_EQ(Immediate()->cursorPosition(), 4);
-    QTest::keyClicks(Immediate(), QStringLiteral("0"));
-    QTest::keyClick(Immediate(), Qt::Key_Return);
-    EXPECT_EQ(Kai(), QStringLiteral("0"));
-}
-
 TEST_F(MenusTest, EntriesInsertTheirWords) {
     const struct {
         const char* action;
@@ -28,6 +18,7 @@ TEST_F(MenusTest, EntriesInsertTheirWords) {
         {"MenueConst_3", "Exp1", 4},           // "Exp1：ｅ=2.718...." cut at "："
         {"BoolOp_0", ".And.", 5},              // ".And.,\" ＆ \""
         {"BoolOp_8", ".EQ.", 4},               // no separator: the whole caption
+        {"MenueFunction_0", "Sin()", 4},       // the caret inside the brackets
         {"MenueFunction_13", "Cpx(,)", 5},     // "Cpx(,)：Cpx(a,b)=a+bj"
         {"MenueBoolFunc_0", "Boolean( )", 8},  // two back: inside the brackets
         {"MenueMatFunction_0", "Gauss()", 6},
@@ -86,16 +77,6 @@ TEST_F(MenusTest, CaseQuestion) {
         EXPECT_EQ(window->interpreter().caseSensitive(), row.checked);
         EXPECT_EQ(window->interpreter().ImmediatePage().NumofMemory() > 0, row.variableKept);
     }
-}
-
-TEST_F(MenusTest, CaseSwitchDecidesWhetherNamesDiffer) {
-    TypeLine(QStringLiteral("abc = 5"));
-    TypeLine(QStringLiteral("ABC"));
-    EXPECT_EQ(Kai(), QStringLiteral("Error")) << "case-sensitive at start";
-    script->answers = {QMessageBox::No};
-    Action("MenuCaps")->trigger();
-    TypeLine(QStringLiteral("ABC"));
-    EXPECT_EQ(Kai(), QStringLiteral("5"));
 }
 
 TEST_F(MenusTest, ClearGlobalsQuestion) {

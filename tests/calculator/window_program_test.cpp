@@ -1,9 +1,8 @@
-// Modes, program runs in both display modes, stopping, and errors of a run.
+// Modes, program runs in both display modes, stopping, and analysis.
 #include <QApplication>
 #include <QCheckBox>
 #include <QMenu>
 
-#include "calculator/code_editor.h"
 #include "calculator/progress_meter.h"
 #include "window_fixture.h"
 
@@ -40,17 +39,6 @@ TEST_F(ProgramTest, ModesShowTheirControls) {
     EXPECT_TRUE(Find<QWidget>("FrameKeyBoard")->isVisible());
 }
 
-TEST_F(ProgramTest, RunShowingTheProgramText) {
-    SetProgram(kSum);
-    Click("ButtonPrgRun");
-    EXPECT_EQ(Kai(), QStringLiteral("Result=55"));
-    EXPECT_TRUE(Editor()->isVisible());
-    EXPECT_FALSE(Find<QWidget>("ProgramList")->isVisible());
-    EXPECT_EQ(Find<QPushButton>("ButtonPrgRun")->text(), QStringLiteral("実　行"));
-    EXPECT_EQ(Action("MenueExeList")->text(), QStringLiteral("実行リスト表示"));
-    EXPECT_TRUE(messages.isEmpty()) << messages.join('\n').toStdString();
-}
-
 TEST_F(ProgramTest, RunShowingTheExecutionList) {
     SetProgram(kSum);
     Find<QCheckBox>("CheckExeList")->setChecked(true);
@@ -73,17 +61,10 @@ TEST_F(ProgramTest, RunShowingTheExecutionList) {
     EXPECT_EQ(Find<QPushButton>("ButtonPrgRun")->text(), QStringLiteral("実　行"));
     Click("ButtonPrgRun");
     EXPECT_EQ(Kai(), QStringLiteral("Result=55"));
-}
 
-TEST_F(ProgramTest, ExecutionListMenuSwitchesBothCaptions) {
-    SetProgram(kSum);
+    // The menu switches the same way; leaving program mode also leaves the list.
     Action("MenueExeList")->trigger();
-    EXPECT_TRUE(Find<QWidget>("ProgramList")->isVisible());
-    EXPECT_EQ(Find<QPushButton>("ButtonPrgRun")->text(), QStringLiteral("プログラム"));
-    Action("MenueExeList")->trigger();
-    EXPECT_TRUE(Editor()->isVisible());
     EXPECT_EQ(Find<QPushButton>("ButtonPrgRun")->text(), QStringLiteral("実　行"));
-    // Leaving program mode also leaves the list.
     Action("MenueExeList")->trigger();
     QTest::mouseClick(Find<QWidget>("OptionNomal"), Qt::LeftButton);
     EXPECT_EQ(Action("MenueExeList")->text(), QStringLiteral("実行リスト表示"));
@@ -99,9 +80,14 @@ TEST_F(ProgramTest, CtrlEnterRuns) {
 TEST_F(ProgramTest, StopEndsARunawayLoop) {
     SetProgram(QStringLiteral("n = 0\nDo\n  n = n + 1\nLoop\nEnd"));
     for (const bool byEsc : {false, true}) {
-        // The stop arrives while the loop runs: the run lets events through.
+        // The stop arrives while the loop runs: the run lets events through,
+        // with the run button disabled and the stop button enabled.
+        bool runEnabled = true;
+        bool stopEnabled = false;
         QApplication::processEvents();
-        QTimer::singleShot(0, window.get(), [this, byEsc] {
+        QTimer::singleShot(0, window.get(), [&, byEsc] {
+            runEnabled = Find<QPushButton>("ButtonPrgRun")->isEnabled();
+            stopEnabled = Find<QPushButton>("ButtonStop")->isEnabled();
             if (byEsc) {
                 QTest::keyClick(window.get(), Qt::Key_Escape);
             } else {
@@ -109,6 +95,8 @@ TEST_F(ProgramTest, StopEndsARunawayLoop) {
             }
         });
         QTest::mouseClick(Find<QPushButton>("ButtonPrgRun"), Qt::LeftButton);
+        EXPECT_FALSE(runEnabled);
+        EXPECT_TRUE(stopEnabled);
         EXPECT_EQ(Kai(), QStringLiteral("End of Analize Page Number=1")) << "by Esc: " << byEsc;
         EXPECT_TRUE(messages.isEmpty()) << "a stop is not an error";
         EXPECT_TRUE(Find<QPushButton>("ButtonPrgRun")->isEnabled());
@@ -117,47 +105,6 @@ TEST_F(ProgramTest, StopEndsARunawayLoop) {
     Editor()->setPlainText(QStringLiteral("Return 1\nEnd"));
     Click("ButtonPrgRun");
     EXPECT_EQ(Kai(), QStringLiteral("Result=1")) << "the next run starts afresh";
-}
-
-TEST_F(ProgramTest, RunButtonsAreDisabledWhileRunning) {
-    SetProgram(QStringLiteral("Do\nLoop\nEnd"));
-    bool runEnabled = true;
-    bool stopEnabled = false;
-    QApplication::processEvents();
-    QTimer::singleShot(0, window.get(), [&] {
-        runEnabled = Find<QPushButton>("ButtonPrgRun")->isEnabled();
-        stopEnabled = Find<QPushButton>("ButtonStop")->isEnabled();
-        window->ButtonStop_Click();
-    });
-    QTest::mouseClick(Find<QPushButton>("ButtonPrgRun"), Qt::LeftButton);
-    EXPECT_FALSE(runEnabled);
-    EXPECT_TRUE(stopEnabled);
-}
-
-TEST_F(ProgramTest, AnalysisErrorIsShownAndItsLineMarked) {
-    SetProgram(QStringLiteral("' 和\ns = 0\n\nFor i = 1 To 3\n  s = s + i\nReturn s\nEnd"));
-    Click("ButtonPrgRun");
-    ASSERT_EQ(messages.size(), 1);
-    EXPECT_TRUE(messages[0].startsWith(QStringLiteral("Main: 2行目解析エラー\nFor i = 1 To 3:")))
-        << messages[0].toStdString();
-    EXPECT_FALSE(buttonsWhileWaiting);
-    EXPECT_FALSE(fileMenuWhileWaiting);
-    EXPECT_TRUE(Find<QWidget>("ProgramButtons")->isEnabled());
-    EXPECT_FALSE(Find<QWidget>("MessageBase")->isVisible());
-    auto* editor = Find<CodeEditor>("ProgramText");
-    EXPECT_EQ(editor->errorLine(), 3);
-    QTest::keyClick(editor, Qt::Key_Space);
-    EXPECT_EQ(editor->errorLine(), -1) << "an edit removes the mark";
-}
-
-TEST_F(ProgramTest, RunErrorMarksTheStatementInAFunction) {
-    // The function's own failure comes first; Main's failing call after it.
-    SetProgram(QStringLiteral(
-        "Return F(0)\nEnd\nFunction F(x)\n  y = 1 : z = w + 1\n  Return z\nEnd Function"));
-    Click("ButtonPrgRun");
-    ASSERT_EQ(messages.size(), 2);
-    EXPECT_TRUE(messages[0].startsWith(QStringLiteral("F: 3行目実行エラー\nz = w + 1")));
-    EXPECT_EQ(Find<CodeEditor>("ProgramText")->errorLine(), 3) << messages.join('\n').toStdString();
 }
 
 TEST_F(ProgramTest, AnEditForcesAFreshAnalysis) {
@@ -184,16 +131,6 @@ TEST_F(ProgramTest, MenueExeErasesGlobalsButTheRunButtonDoesNot) {
     Editor()->setPlainText(QStringLiteral("Return q \nEnd"));
     Click("ButtonPrgRun");
     EXPECT_EQ(Kai(), QStringLiteral("Result=7"));
-}
-
-TEST_F(ProgramTest, ClearGlVarMakesTheRunButtonEraseGlobals) {
-    script->answers = {QMessageBox::Yes};
-    Action("MenueClearGlVar")->trigger();
-    ASSERT_TRUE(Action("MenueClearGlVar")->isChecked());
-    TypeLine(QStringLiteral("q = 7"));
-    SetProgram(QStringLiteral("Return 1\nEnd"));
-    Click("ButtonPrgRun");
-    EXPECT_EQ(window->interpreter().ImmediatePage().NumofMemory(), 0);
 }
 
 TEST_F(ProgramTest, MeterResetsToTicksAndGrows) {

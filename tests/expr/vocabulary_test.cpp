@@ -52,26 +52,6 @@ TEST(VocabularyTables, ScalarFunctionCodesAreTheirRows) {
     }
 }
 
-TEST(VocabularyLookups, FunctionNamesIncludeTheirBracket) {
-    const struct {
-        const char* text;
-        std::optional<std::size_t> row;
-    } rows[] = {{"Log10(x)", 7}, {"Log(x)", 6},         {"Log2(x)", 8},
-                {"Sinh(x)", 12}, {"sin(x)", 0},         {"Sqr(x)", 10},
-                {"Sqrt(x)", 9},  {"Sin", std::nullopt}, {"x", std::nullopt}};
-    for (const auto& row : rows) {
-        EXPECT_EQ(FindScalarFunction(row.text), row.row) << row.text;
-    }
-    EXPECT_EQ(FindMatrixFunction("invmat(A)"), 6u);
-    EXPECT_EQ(FindMatrixFunction("Mat(A)"), std::nullopt);
-}
-
-TEST(VocabularyLookups, InitialisationPutsRadiansBack) {
-    AngleUnit = 0.5;
-    InitVocabulary();
-    EXPECT_EQ(AngleUnit, 1.0);
-}
-
 // A name that begins with a digit is never reserved, not even a constant's.
 TEST(ReservedWords, VocabularyWordsAreReservedButNotNamesStartingWithDigits) {
     const struct {
@@ -92,11 +72,9 @@ TEST(ClassifyStatement, FirstKeywordInTableOrderAsAWholeWord) {
         std::int16_t code;
         const char* rest;
     } rows[] = {{"End If", kw::EndIf, ""},
-                {"EndIf", kw::EndIf, ""},
                 {"End", kw::End, ""},
                 {"EndFunction", kw::End, ""},
                 {"ExitFor", kw::ExitFor, ""},
-                {"Exit Function", kw::ExitFunction, ""},
                 {"CaseElse", kw::CaseElse, ""},
                 {"Case 1, 3", kw::Case, "1, 3"},
                 {"Else If x>1 Then", kw::ElseIf, "x>1 Then"},
@@ -104,7 +82,6 @@ TEST(ClassifyStatement, FirstKeywordInTableOrderAsAWholeWord) {
                 {"  for i=1 to 3", kw::For, "i=1 to 3"},
                 {"Return   x+1", kw::Return, "x+1"},
                 {"Format = 1", kw::kAssignmentCode, "Format = 1"},
-                {"Elsewhere = 3", kw::kAssignmentCode, "Elsewhere = 3"},
                 {"Do_it = 4", kw::kAssignmentCode, "Do_it = 4"},
                 {"", kw::kAssignmentCode, ""}};
     for (const auto& row : rows) {

@@ -125,14 +125,18 @@ TEST_F(Driver, FunctionNamedLikeTheGlobalPageLeavesTheGlobalsAlone) {
     EXPECT_EQ(interpreter.ImmediatePage().PageIndex(), -1);
 }
 
-// A run starts with Main's value cleared: a run that sets no value gives 0.
-TEST_F(Driver, EachRunStartsFromAZeroValue) {
-    interpreter.SetProgramText(
-        ProgramText({"n = n + 1", "If n = 1 Then", "Return 9", "End If", "End"}));
-    ASSERT_TRUE(Run());
-    EXPECT_EQ(view.kai, "Result=9");
-    ASSERT_TRUE(Run());
-    EXPECT_EQ(view.kai, "Result=0");
+// Main's variables survive between runs of the same text, but each run
+// starts with Main's value cleared: a run that sets no value gives 0. A
+// changed text builds the pages again, with fresh memory.
+TEST_F(Driver, RunsKeepMainVariablesButStartFromAZeroValue) {
+    const std::string text =
+        ProgramText({"n = n + 1", "If n = 1 Then", "Return 9", "End If", "End"});
+    for (const auto& [program, kai] : {std::pair{text, "Result=9"}, std::pair{text, "Result=0"},
+                                       std::pair{text + "\r\n", "Result=9"}}) {
+        interpreter.SetProgramText(program);
+        ASSERT_TRUE(Run());
+        EXPECT_EQ(view.kai, kai);
+    }
 }
 
 }  // namespace

@@ -37,16 +37,6 @@ TEST(Immediate, GivesItsValueAndGlobals) {
     }
 }
 
-TEST(Immediate, DimDeclaresFourElementsForThree) {
-    Session s;
-    ASSERT_TRUE(s.Line("Dim A(3)").ok);
-    EXPECT_EQ(s.Global().MemoryTyp(0), 1);
-    EXPECT_EQ(s.Global().MemoryLn(0), 3);
-    EXPECT_TRUE(s.Line("A(3) = 5").ok);
-    EXPECT_FALSE(s.Line("A(4) = 5").ok);
-    EXPECT_EQ(s.Line("A(3) * 2").value.Re, 10.0);
-}
-
 TEST(Immediate, FailuresShowWhy) {
     Session s;
     EXPECT_FALSE(s.Line("PAI = 3").ok);

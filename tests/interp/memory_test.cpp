@@ -27,11 +27,15 @@ TEST(CaseSwitch, OffKeepsTheFirstSpelling) {
 
 // ---- Declarations
 
-// Dim A(3) twice keeps A's values; any other shape afterwards fails.
+// Dim A(3) declares the elements 0..3. Declared twice it keeps A's values;
+// any other shape afterwards fails.
 TEST(Declaration, RepeatedKeepsTheValuesButNeverReshapes) {
     for (const char* other : {"Dim A(4)", "Dim A(3,0)", "Dim A"}) {
         Session s;
         ASSERT_TRUE(s.Line("Dim A(3)").ok);
+        EXPECT_EQ(s.Global().MemoryTyp(0), 1);
+        EXPECT_TRUE(s.Line("A(3) = 5").ok);
+        EXPECT_FALSE(s.Line("A(4) = 5").ok);
         ASSERT_TRUE(s.Line("A(2) = 7").ok);
         EXPECT_TRUE(s.Line("Dim A(3)").ok);
         EXPECT_FALSE(s.Line(other).ok) << other;
@@ -173,17 +177,6 @@ TEST(Creation, FunctionsWriteGlobalsAndKeepTheirLocals) {
     EXPECT_EQ(s.Line("g").value.Re, 7.0);
     EXPECT_EQ(s.interpreter.Page(1).NumofMemory(), 1);
     EXPECT_EQ(Session::IndexOf(s.interpreter.Page(1), "t"), 0);
-}
-
-TEST(Creation, MainVariablesSurviveBetweenRuns) {
-    Session s;
-    const std::string text = ProgramText({"n = n + 1", "Return n", "End"});
-    ASSERT_TRUE(s.Run(text));
-    ASSERT_TRUE(s.Run(text));
-    EXPECT_EQ(s.view.kai, "Result=2");
-    // A changed text builds the pages again, with fresh memory.
-    ASSERT_TRUE(s.Run(text + "\r\n"));
-    EXPECT_EQ(s.view.kai, "Result=1");
 }
 
 }  // namespace

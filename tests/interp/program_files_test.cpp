@@ -14,12 +14,12 @@
 #include <cctype>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "interp/interpreter.h"
 #include "interp/recording_view.h"
+#include "named_rows.h"
 #include "values/number_text.h"
 
 namespace lapdesk {
@@ -46,58 +46,50 @@ struct ProgramFile {
 std::string Unescape(std::string_view text) {
     std::string out;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const std::string_view pair = text.substr(i, 2);
-        if (pair == "\\n" || pair == "\\q") {
-            out += pair == "\\n" ? "\r\n" : "'";
-            ++i;
+        const bool escape = text[i] == '\\' && i + 1 < text.size();
+        if (escape && text[i + 1] == 'n') {
+            out += "\r\n";
+        } else if (escape && text[i + 1] == 'q') {
+            out += '\'';
         } else {
             out += text[i];
+            continue;
         }
+        ++i;
     }
     return out;
-}
-
-bool TakeDirective(std::string_view line, std::string_view directive, std::string& value) {
-    if (!line.starts_with(directive)) return false;
-    value = std::string(line.substr(directive.size()));
-    return true;
 }
 
 ProgramFile ReadProgram(const std::filesystem::path& path) {
     ProgramFile program;
     program.name = path.stem().string();
-    for (char& c : program.name) {
-        if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';  // a valid test name
-    }
+    std::replace_if(
+        program.name.begin(), program.name.end(), [](unsigned char c) { return !std::isalnum(c); },
+        '_');  // a valid test name
     std::ifstream in(path, std::ios::binary);
-    std::stringstream content;
-    content << in.rdbuf();
     std::string line;
     bool header = true;
-    std::vector<std::string> lines;
-    while (std::getline(content, line)) {
+    for (bool first = true; std::getline(in, line); first = false) {
         if (!line.empty() && line.back() == '\r') line.pop_back();
-        lines.push_back(line);
+        program.text += (first ? "" : "\r\n") + line;
         header = header && line.starts_with("'");
         if (!header) continue;
-        std::string value;
-        if (TakeDirective(line, "' expect: ", value)) {
+        const std::size_t colon = line.find(": ");
+        const std::string directive = line.substr(0, colon);
+        const std::string value = colon == std::string::npos ? "" : line.substr(colon + 2);
+        if (directive == "' expect") {
             program.kai = value;
             program.hasKai = true;
-        } else if (TakeDirective(line, "' expect-message: ", value)) {
+        } else if (directive == "' expect-message") {
             program.messages.push_back(Unescape(value));
-        } else if (TakeDirective(line, "' expect-value: ", value)) {
+        } else if (directive == "' expect-value") {
             const std::size_t equals = value.rfind(" = ");
             program.values.push_back({value.substr(0, equals), value.substr(equals + 3)});
-        } else if (TakeDirective(line, "' expect-hint: ", value)) {
+        } else if (directive == "' expect-hint") {
             program.hint = value;
         } else if (line == "' option: case-insensitive") {
             program.caseInsensitive = true;
         }
-    }
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (i > 0) program.text += "\r\n";
-        program.text += lines[i];
     }
     return program;
 }
@@ -113,10 +105,6 @@ std::vector<ProgramFile> AllPrograms() {
     std::sort(programs.begin(), programs.end(),
               [](const ProgramFile& a, const ProgramFile& b) { return a.name < b.name; });
     return programs;
-}
-
-void PrintTo(const ProgramFile& program, std::ostream* os) {
-    *os << program.name;
 }
 
 class ProgramFiles : public ::testing::TestWithParam<ProgramFile> {};

