@@ -92,7 +92,8 @@ void ShootError(FrmCplCal& window, const QDir& folder) {
     Save(window, folder, QStringLiteral("6-error-marked"));
 }
 
-// The least window in both modes, the keyboard shown, a long value cut.
+// The least window in both modes and with the memory display, the keyboard
+// shown, a long value.
 void ShootSmall(FrmCplCal& window, const QDir& folder) {
     window.findChild<QRadioButton*>(QStringLiteral("OptionNomal"))->click();
     Click(window, "CommandKeyBoard");
@@ -102,6 +103,9 @@ void ShootSmall(FrmCplCal& window, const QDir& folder) {
     window.findChild<QRadioButton*>(QStringLiteral("OptionProgram"))->click();
     window.resize(window.minimumSizeHint());
     Save(window, folder, QStringLiteral("8-smallest-program"));
+    Trigger(window, "MenueShowMemory");
+    window.resize(window.minimumSizeHint());
+    Save(window, folder, QStringLiteral("9-smallest-memory"));
 }
 
 }  // namespace
