@@ -41,6 +41,11 @@ TEST_F(KeyboardTest, CharacterKeysInsertAtTheCaret) {
     Key(10);  // π
     EXPECT_EQ(Immediate()->text(), QStringLiteral("1π/2 a    "));
     EXPECT_EQ(Immediate()->cursorPosition(), 2);
+    Immediate()->setSelection(0, 2);
+    Key(1);  // replaces the selection
+    EXPECT_EQ(Immediate()->text(), QStringLiteral("2/2 a    "));
+    EXPECT_EQ(Immediate()->cursorPosition(), 1);
+    EXPECT_FALSE(Immediate()->hasSelectedText());
 }
 
 TEST_F(KeyboardTest, ShiftedLayer) {
@@ -167,7 +172,9 @@ TEST_F(KeyboardTest, RowsLineUpArrowsStandInOrderAndCaptionsFit) {
                 {"Key_45", nullptr, "ESC"}};
     for (const auto& row : rows) {
         const int y = top(QString::fromLatin1(row.character));
-        if (row.keypad != nullptr) EXPECT_EQ(top(QString::fromLatin1(row.keypad)), y) << row.keypad;
+        if (row.keypad != nullptr) {
+            EXPECT_EQ(top(QString::fromLatin1(row.keypad)), y) << row.keypad;
+        }
         EXPECT_EQ(control(row.controlKey)->mapTo(window.get(), QPoint(0, 0)).y(), y)
             << row.controlKey;
     }

@@ -112,13 +112,6 @@ TEST_F(LinkTest, ChannelMenusAreFilledByTheClientAndInsert) {
     }
 }
 
-TEST_F(LinkTest, TheTransformTakesBackTheStopRequest) {
-    Click("ButtonStop");
-    EXPECT_TRUE(window->StopRequested());
-    window->SetStopRequested(false);
-    EXPECT_FALSE(window->StopRequested());
-}
-
 TEST_F(LinkTest, ProgressViewSwapsTheKeyboardForTheMeter) {
     window->SetProgressView(true);
     EXPECT_FALSE(Find<QWidget>("FrameKeyBoard")->isVisible());
