@@ -178,6 +178,16 @@ void FrmCplCal::ShowProgramMode() {
     if (isVisible()) programText_->setFocus();
 }
 
+// The Esc key and the keyboard's "ESC" stop a running program; otherwise
+// they put the keyboard away.
+void FrmCplCal::Escape() {
+    if (running_) {
+        ButtonStop_Click();
+    } else {
+        keyboard_->hide();
+    }
+}
+
 void FrmCplCal::CommandKeyBoard_Click() {
     keyboard_->setVisible(keyboard_->isHidden());
 }
@@ -289,12 +299,7 @@ void FrmCplCal::Ctlkey_Click(int index) {
             activeBox_.InsertAtCaret(QStringLiteral("="));
             break;
         case ControlKey::Escape:
-            // Stops a running program; otherwise puts the keyboard away.
-            if (running_) {
-                ButtonStop_Click();
-            } else {
-                keyboard_->hide();
-            }
+            Escape();
             break;
         case ControlKey::None:
             break;

@@ -171,6 +171,7 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     void ProgramText_Change();
     void ProgramText_DblClick();
     void SetActiveBox(bool program);
+    void Escape();
     void ZoomFont(QWidget* widget);
     void LoadSample(const std::vector<SampleProgram>& samples, int index);
     void InsertChannelWord(QMenu* menu, int index);

@@ -97,8 +97,8 @@ void FrmCplCal::InstallGestures() {
                                   messageBox_};
     for (QObject* target : watched)
         target->installEventFilter(this);
-    auto* stop = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-    connect(stop, &QShortcut::activated, this, &FrmCplCal::ButtonStop_Click);
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    connect(escape, &QShortcut::activated, this, &FrmCplCal::Escape);
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto* run = new QShortcut(QKeySequence(Qt::CTRL | key), this);
         connect(run, &QShortcut::activated, this, [this] {

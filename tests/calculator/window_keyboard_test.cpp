@@ -145,6 +145,10 @@ TEST_F(KeyboardTest, EscapePutsTheKeyboardAwayAsItsHintSays) {
     EXPECT_TRUE(Find<QLabel>("KeyboardHint")->text().startsWith(QStringLiteral("ESC")));
     Control(QStringLiteral("ESC"));
     EXPECT_FALSE(Find<QWidget>("FrameKeyBoard")->isVisible());
+    Click("CommandKeyBoard");
+    ASSERT_TRUE(Find<QWidget>("FrameKeyBoard")->isVisible());
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_FALSE(Find<QWidget>("FrameKeyBoard")->isVisible()) << "the Esc key as well";
 }
 
 // In the narrowest window: the rows of the three blocks line up, the arrows
