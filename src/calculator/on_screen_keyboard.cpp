@@ -33,8 +33,9 @@ constexpr int kKeypadColumn = kCharacterColumns + 1;
 constexpr int kKeypadColumns = 4;
 constexpr int kControlColumn = kKeypadColumn + kKeypadColumns + 1;
 
-// Where each control key stands, by caption: the editing keys first, the
-// two arrows side by side, the keys that end an entry at the bottom.
+// Where each control key stands, by caption (every caption of
+// ControlKeyCaptions has its place): the editing keys first, the two arrows
+// side by side, the keys that end an entry at the bottom.
 struct ControlPlace {
     const char16_t* caption;
     int row;
@@ -47,13 +48,6 @@ constexpr ControlPlace kControlPlaces[] = {
     {u"PAST", 2, 2, 1}, {u"CAPS", 3, 0, 1}, {u"C", 3, 1, 1},   {u"=", 3, 2, 1},
     {u"ESC", 4, 0, 1},  {u"ENT", 4, 1, 2},
 };
-
-const ControlPlace* PlaceOf(const QString& caption) {
-    for (const ControlPlace& place : kControlPlaces) {
-        if (caption == QString::fromUtf16(place.caption)) return &place;
-    }
-    return nullptr;
-}
 
 // A caption as a button shows it: "&" would otherwise mark a shortcut.
 QString Shown(const QString& caption) {
@@ -113,13 +107,11 @@ OnScreenKeyboard::OnScreenKeyboard(QWidget* parent)
         if (role == ControlKey::Escape) {
             key->setToolTip(QStringLiteral("キーボードを隠します（実行中はプログラムを止めます）"));
         }
-        const ControlPlace* place = PlaceOf(controlCaptions[k]);
-        if (place != nullptr) {
-            grid->addWidget(key, place->row, kControlColumn + place->column, 1, place->span);
-        } else {
-            key->hide();  // a caption without a place has no role either
-        }
         controlKeys_ << key;
+    }
+    for (const ControlPlace& place : kControlPlaces) {
+        const auto k = controlCaptions.indexOf(QString::fromUtf16(place.caption));
+        grid->addWidget(controlKeys_[k], place.row, kControlColumn + place.column, 1, place.span);
     }
 }
 

@@ -2,6 +2,7 @@
 // control keys acting on the active text box.
 #include <QApplication>
 #include <QClipboard>
+#include <QSet>
 
 #include "calculator/keyboard_layers.h"
 
@@ -184,6 +185,11 @@ TEST_F(KeyboardTest, RowsLineUpArrowsStandInOrderAndCaptionsFit) {
     }
     EXPECT_LT(control("←")->x(), control("→")->x());
     EXPECT_EQ(control("←")->y(), control("→")->y());
+    QSet<QPoint> places;
+    for (const QString& caption : ControlKeyCaptions()) {
+        places << control(caption.toUtf8().constData())->pos();
+    }
+    EXPECT_EQ(places.size(), ControlKeyCaptions().size()) << "every control key has its place";
     for (QPushButton* key : Find<QWidget>("FrameKeyBoard")->findChildren<QPushButton*>()) {
         EXPECT_LE(key->fontMetrics().horizontalAdvance(key->text()) + 8, key->width())
             << key->objectName().toStdString() << " " << key->text().toStdString();
