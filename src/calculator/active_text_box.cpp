@@ -16,7 +16,12 @@ QString ActiveTextBox::text() const {
     return line_ != nullptr ? line_->text() : editor_->toPlainText();
 }
 
+bool ActiveTextBox::editable() const {
+    return line_ != nullptr ? !line_->isReadOnly() : !editor_->isReadOnly();
+}
+
 void ActiveTextBox::InsertAtCaret(const QString& s, int back) {
+    if (!editable()) return;
     if (line_ != nullptr) {
         line_->insert(s);
         line_->setCursorPosition(std::max(0, line_->cursorPosition() - back));
@@ -34,6 +39,7 @@ void ActiveTextBox::InsertLineBreak() {
 }
 
 void ActiveTextBox::Clear() {
+    if (!editable()) return;
     if (line_ != nullptr) {
         line_->clear();
     } else {
@@ -55,6 +61,7 @@ void ActiveTextBox::Copy() {
 }
 
 void ActiveTextBox::Cut() {
+    if (!editable()) return;
     if (line_ != nullptr) {
         line_->cut();
     } else {
@@ -67,6 +74,7 @@ void ActiveTextBox::Paste() {
 }
 
 void ActiveTextBox::DeleteBefore() {
+    if (!editable()) return;
     if (line_ != nullptr) {
         line_->backspace();
     } else {
@@ -77,6 +85,7 @@ void ActiveTextBox::DeleteBefore() {
 }
 
 void ActiveTextBox::DeleteAfter() {
+    if (!editable()) return;
     if (line_ != nullptr) {
         line_->del();
     } else {

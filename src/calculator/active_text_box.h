@@ -19,6 +19,9 @@ class ActiveTextBox {
     QWidget* widget() const;
     bool multiLine() const { return editor_ != nullptr; }
     QString text() const;
+    // A read-only box (the program while an error message waits) takes no
+    // edits: the editing operations below leave it as it is.
+    bool editable() const;
 
     // Replaces the selection with s and puts the caret after it, then moves
     // the caret back by `back` characters; the box gets the focus again.

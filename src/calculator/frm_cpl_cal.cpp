@@ -11,8 +11,10 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QRadioButton>
+#include <QStatusBar>
 
 #include "calculator/code_editor.h"
+#include "calculator/elided_label.h"
 #include "calculator/immediate_rules.h"
 #include "calculator/memory_panel.h"
 #include "calculator/on_screen_keyboard.h"
@@ -22,19 +24,20 @@ namespace lapdesk {
 
 // ButtonEnter: evaluate the immediate line, show the value, record it.
 void FrmCplCal::ButtonEnter_Click() {
-    kai_->clear();
+    kai_->SetFullText(QString());
     label5_->hide();
+    statusBar()->clearMessage();  // news of an earlier run or file is old now
     ProcessEvents();
     const ImmediateResult result =
         interpreter_.ImmediateLine(imidateTextBox_->text().trimmed().toStdString());
     immediateOk_ = result.ok;
     if (result.ok) {
         Complex value = result.value;
-        kai_->setText(QString::fromStdString(ComplexToText(value, RoundedDisplay())));
+        kai_->SetFullText(QString::fromStdString(ComplexToText(value, RoundedDisplay())));
     } else {
-        kai_->setText(QStringLiteral("Error"));
+        kai_->SetFullText(QStringLiteral("Error"));
     }
-    histryList_->insertItem(0, HistoryEntry(imidateTextBox_->text(), kai_->text()));
+    histryList_->insertItem(0, HistoryEntry(imidateTextBox_->text(), kai_->FullText()));
     histryList_->setCurrentRow(0);
     if (memory_->isVisible()) memory_->CommandReShowMemorys_Click();
     // The next line is typed where this one was, whether it came by Enter
@@ -175,6 +178,16 @@ void FrmCplCal::ShowProgramMode() {
     if (isVisible()) programText_->setFocus();
 }
 
+// The Esc key and the keyboard's "ESC" stop a running program; otherwise
+// they put the keyboard away.
+void FrmCplCal::Escape() {
+    if (running_) {
+        ButtonStop_Click();
+    } else {
+        keyboard_->hide();
+    }
+}
+
 void FrmCplCal::CommandKeyBoard_Click() {
     keyboard_->setVisible(keyboard_->isHidden());
 }
@@ -286,12 +299,7 @@ void FrmCplCal::Ctlkey_Click(int index) {
             activeBox_.InsertAtCaret(QStringLiteral("="));
             break;
         case ControlKey::Escape:
-            // Stops a running program; otherwise puts the keyboard away.
-            if (running_) {
-                ButtonStop_Click();
-            } else {
-                keyboard_->hide();
-            }
+            Escape();
             break;
         case ControlKey::None:
             break;

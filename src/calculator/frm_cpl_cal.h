@@ -34,6 +34,7 @@ class QRadioButton;
 namespace lapdesk {
 
 class CodeEditor;
+class ElidedLabel;
 class MemoryPanel;
 class OnScreenKeyboard;
 class ProgressMeter;
@@ -170,9 +171,11 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     void ProgramText_Change();
     void ProgramText_DblClick();
     void SetActiveBox(bool program);
+    void Escape();
     void ZoomFont(QWidget* widget);
     void LoadSample(const std::vector<SampleProgram>& samples, int index);
     void InsertChannelWord(QMenu* menu, int index);
+    void ShowFilledChannelMenus();
     void ShowFileOutcome(const QString& done);
 
     Interpreter interpreter_;
@@ -185,7 +188,7 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     QRadioButton* optionProgram_ = nullptr;
     QWidget* calcuFrame_ = nullptr;
     QLineEdit* imidateTextBox_ = nullptr;
-    QLabel* kai_ = nullptr;
+    ElidedLabel* kai_ = nullptr;
     QLabel* label5_ = nullptr;
     QListWidget* histryList_ = nullptr;
     QFrame* messageBase_ = nullptr;
@@ -218,6 +221,7 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     QAction* menuCaps_ = nullptr;
     QAction* menueSingleDisp_ = nullptr;
     QMenu* menueCtWord_ = nullptr;
+    QMenu* menueData_ = nullptr;  // holds the channel menus
     ChannelMenus channelMenus_;
 
     // State.

@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include "calculator/code_editor.h"
+#include "calculator/elided_label.h"
 #include "calculator/frm_cpl_cal.h"
 #include "calculator/memory_panel.h"
 #include "calculator/menu_words.h"
@@ -96,8 +97,8 @@ void FrmCplCal::InstallGestures() {
                                   messageBox_};
     for (QObject* target : watched)
         target->installEventFilter(this);
-    auto* stop = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-    connect(stop, &QShortcut::activated, this, &FrmCplCal::ButtonStop_Click);
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    connect(escape, &QShortcut::activated, this, &FrmCplCal::Escape);
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto* run = new QShortcut(QKeySequence(Qt::CTRL | key), this);
         connect(run, &QShortcut::activated, this, [this] {
@@ -170,14 +171,13 @@ QWidget* FrmCplCal::BuildCalcuFrame() {
     enter->setToolTip(QStringLiteral("計算 (Enter)"));
     enter->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     connect(enter, &QPushButton::clicked, this, &FrmCplCal::ButtonEnter_Click);
-    kai_ = Named(new QLabel, "kai");
+    kai_ = Named(new ElidedLabel, "kai");
     QFont resultFont = kai_->font();
     resultFont.setPointSize(16);
     kai_->setFont(resultFont);
     kai_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    kai_->setMinimumHeight(kai_->fontMetrics().height() + 8);
     kai_->setFrameShape(QFrame::StyledPanel);
-    kai_->setToolTip(QStringLiteral("クリック: 文字を大きく，Shift+クリック: 小さく"));
+    kai_->SetHint(QStringLiteral("クリック: 文字を大きく，Shift+クリック: 小さく"));
     label5_ = Named(new QLabel(QString::fromUtf8(kHint)), "Label5");
     label5_->setWordWrap(true);
     label5_->setForegroundRole(QPalette::PlaceholderText);
@@ -374,6 +374,7 @@ void FrmCplCal::BuildOptionMenu() {
 
 void FrmCplCal::BuildChannelMenus() {
     QMenu* data = Named(menuBar()->addMenu(QStringLiteral("データ(&D)")), "MenueData");
+    menueData_ = data;
     const struct {
         const char* name;
         const char* title;
@@ -399,6 +400,7 @@ void FrmCplCal::BuildChannelMenus() {
             }
         });
     }
+    ShowFilledChannelMenus();
 }
 
 }  // namespace lapdesk

@@ -9,6 +9,7 @@
 #include <QStatusBar>
 
 #include "calculator/code_editor.h"
+#include "calculator/elided_label.h"
 #include "calculator/error_location.h"
 #include "calculator/frm_cpl_cal.h"
 #include "calculator/memory_panel.h"
@@ -98,7 +99,11 @@ void FrmCplCal::ShowExecutionList(bool list) {
     programText_->setVisible(!list);
 }
 
+// A run keeps the input and the memory display waiting, except while one of
+// its messages waits: then only the program buttons and the File menu do,
+// and the line and the variables can be looked at.
 void FrmCplCal::UpdateEnabled() {
+    const bool runWaits = running_ && !messageWaiting_;
     programButtons_->setEnabled(!messageWaiting_);
     fileMenues_->setEnabled(!messageWaiting_ && !running_);
     buttonPrgRun_->setEnabled(!running_);
@@ -107,8 +112,8 @@ void FrmCplCal::UpdateEnabled() {
     menueReadProgram_->setEnabled(programMode_);
     menueWriteProgram_->setEnabled(programMode_);
     menueWriteOverProgram_->setEnabled(programMode_);
-    calcuFrame_->setEnabled(!arrayPanelOpen_ && !running_);
-    memory_->setEnabled(!running_);
+    calcuFrame_->setEnabled(!arrayPanelOpen_ && !runWaits);
+    memory_->setEnabled(!runWaits);
 }
 
 void FrmCplCal::ProgramText_Change() {
@@ -179,7 +184,7 @@ void FrmCplCal::SelectProgramListEntry(std::int16_t index) {
 }
 
 void FrmCplCal::SetKai(const std::string& text) {
-    kai_->setText(QString::fromStdString(text));
+    kai_->SetFullText(QString::fromStdString(text));
 }
 
 void FrmCplCal::ShowHint(const std::string& text) {
@@ -256,6 +261,19 @@ void FrmCplCal::DmCliant(ChannelClient* client) {
 
 void FrmCplCal::LoadDmChnMenue() {
     if (channelClient_ != nullptr) channelClient_->DmChnMenueLoad(channelMenus_);
+    ShowFilledChannelMenus();
+}
+
+// Only menus with channels in them are offered; without a channel client
+// the whole data menu stays out of the menu bar.
+void FrmCplCal::ShowFilledChannelMenus() {
+    bool any = false;
+    for (QMenu* menu : {channelMenus_.chVp, channelMenus_.chVp2, channelMenus_.aver,
+                        channelMenus_.max, channelMenus_.dmConstants}) {
+        menu->menuAction()->setVisible(!menu->isEmpty());
+        any = any || !menu->isEmpty();
+    }
+    menueData_->menuAction()->setVisible(any);
 }
 
 void FrmCplCal::InsertChannelWord(QMenu* menu, int index) {

@@ -1,14 +1,15 @@
 #include "calculator/on_screen_keyboard.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
+#include <algorithm>
 
 namespace lapdesk {
 
 namespace {
 
-// Character keys by row, in the order of a typewriter; -1 leaves a gap.
+// Character keys by row, in the order of a typewriter.
 const std::vector<std::vector<int>>& KeyRows() {
     static const std::vector<std::vector<int>> rows{
         {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11},
@@ -20,7 +21,33 @@ const std::vector<std::vector<int>>& KeyRows() {
     return rows;
 }
 
+// The space bar spans the rest of the last row.
+constexpr int kSpaceKey = 47;
+constexpr int kSpaceSpan = 8;
+
+// One grid holds the three blocks, so that their rows line up: the
+// character keys in columns 0..11, the keypad in 13..16 (four rows, the ESC
+// hint below them), the control keys in 18..20.
+constexpr int kCharacterColumns = 12;
+constexpr int kKeypadColumn = kCharacterColumns + 1;
 constexpr int kKeypadColumns = 4;
+constexpr int kControlColumn = kKeypadColumn + kKeypadColumns + 1;
+
+// Where each control key stands, by caption (every caption of
+// ControlKeyCaptions has its place): the editing keys first, the two arrows
+// side by side, the keys that end an entry at the bottom.
+struct ControlPlace {
+    const char16_t* caption;
+    int row;
+    int column;
+    int span;
+};
+constexpr ControlPlace kControlPlaces[] = {
+    {u"BS", 0, 0, 1},   {u"DEL", 0, 1, 1},  {u"CLR", 0, 2, 1}, {u"←", 1, 0, 1},
+    {u"→", 1, 1, 1},    {u"SEL", 1, 2, 1},  {u"CUT", 2, 0, 1}, {u"COPY", 2, 1, 1},
+    {u"PAST", 2, 2, 1}, {u"CAPS", 3, 0, 1}, {u"C", 3, 1, 1},   {u"=", 3, 2, 1},
+    {u"ESC", 4, 0, 1},  {u"ENT", 4, 1, 2},
+};
 
 // A caption as a button shows it: "&" would otherwise mark a shortcut.
 QString Shown(const QString& caption) {
@@ -35,10 +62,16 @@ OnScreenKeyboard::OnScreenKeyboard(QWidget* parent)
     setObjectName(QStringLiteral("FrameKeyBoard"));
     setFrameShape(QFrame::StyledPanel);
 
-    auto* characters = new QGridLayout;
-    characters->setSpacing(3);
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(6, 6, 6, 6);
+    grid->setSpacing(3);
+    for (const int gap : {kCharacterColumns, kKeypadColumn + kKeypadColumns}) {
+        grid->setColumnMinimumWidth(gap, 8);
+    }
+
     for (int k = 0; k < kCharacterKeyCount; ++k) {
         QPushButton* key = MakeKey(QStringLiteral("Key_%1").arg(k), layers_.normal[k]);
+        FitCaption(key, {layers_.normal[k], layers_.shifted[k]});
         connect(key, &QPushButton::clicked, this, [this, k] { emit keyClicked(k); });
         keys_ << key;
     }
@@ -46,41 +79,40 @@ OnScreenKeyboard::OnScreenKeyboard(QWidget* parent)
     for (int r = 0; r < static_cast<int>(rows.size()); ++r) {
         for (int c = 0; c < static_cast<int>(rows[r].size()); ++c) {
             const int key = rows[r][c];
-            // The space bar spans the rest of the last row.
-            const int span = key == 47 ? 8 : 1;
-            characters->addWidget(keys_[key], r, c, 1, span);
+            grid->addWidget(keys_[key], r, c, 1, key == kSpaceKey ? kSpaceSpan : 1);
         }
     }
 
-    auto* keypad = new QGridLayout;
-    keypad->setSpacing(3);
     const QStringList& tenCaptions = TenKeyCaptions();
     for (int k = 0; k < tenCaptions.size(); ++k) {
         QPushButton* key = MakeKey(QStringLiteral("TenKey_%1").arg(k), tenCaptions[k]);
+        FitCaption(key, {tenCaptions[k]});
         connect(key, &QPushButton::clicked, this, [this, k] { emit tenKeyClicked(k); });
-        keypad->addWidget(key, k / kKeypadColumns, k % kKeypadColumns);
+        grid->addWidget(key, k / kKeypadColumns, kKeypadColumn + k % kKeypadColumns);
         tenKeys_ << key;
     }
+    auto* hint = new QLabel(QStringLiteral("ESC でキーボードを隠します"));
+    hint->setObjectName(QStringLiteral("KeyboardHint"));
+    hint->setForegroundRole(QPalette::PlaceholderText);
+    hint->setAlignment(Qt::AlignCenter);
+    grid->addWidget(hint, static_cast<int>(rows.size()) - 1, kKeypadColumn, 1, kKeypadColumns);
 
-    auto* controls = new QGridLayout;
-    controls->setSpacing(3);
     const QStringList& controlCaptions = ControlKeyCaptions();
     for (int k = 0; k < controlCaptions.size(); ++k) {
         QPushButton* key = MakeKey(QStringLiteral("Ctlkey_%1").arg(k), controlCaptions[k]);
+        FitCaption(key, {controlCaptions[k]});
         connect(key, &QPushButton::clicked, this, [this, k] { emit controlKeyClicked(k); });
         const ControlKey role = ParseControlKey(controlCaptions[k]);
         key->setCheckable(role == ControlKey::Caps || role == ControlKey::Select);
-        controls->addWidget(key, k / 2, k % 2);
+        if (role == ControlKey::Escape) {
+            key->setToolTip(QStringLiteral("キーボードを隠します（実行中はプログラムを止めます）"));
+        }
         controlKeys_ << key;
     }
-
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(6, 6, 6, 6);
-    layout->addLayout(characters, 3);
-    layout->addSpacing(8);
-    layout->addLayout(keypad, 1);
-    layout->addSpacing(8);
-    layout->addLayout(controls, 1);
+    for (const ControlPlace& place : kControlPlaces) {
+        const auto k = controlCaptions.indexOf(QString::fromUtf16(place.caption));
+        grid->addWidget(controlKeys_[k], place.row, kControlColumn + place.column, 1, place.span);
+    }
 }
 
 QPushButton* OnScreenKeyboard::MakeKey(const QString& name, const QString& caption) {
@@ -88,9 +120,17 @@ QPushButton* OnScreenKeyboard::MakeKey(const QString& name, const QString& capti
     key->setObjectName(name);
     key->setFocusPolicy(Qt::NoFocus);  // the active text box keeps the caret
     key->setAutoDefault(false);
-    key->setMinimumWidth(30);
     key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     return key;
+}
+
+// Narrow keys, but never narrower than the longest caption they show.
+void OnScreenKeyboard::FitCaption(QPushButton* key, const QStringList& captions) {
+    int widest = 0;
+    for (const QString& caption : captions) {
+        widest = std::max(widest, key->fontMetrics().horizontalAdvance(caption));
+    }
+    key->setMinimumWidth(std::max(kNarrowestKey, widest + kCaptionPadding));
 }
 
 void OnScreenKeyboard::ToggleCaps() {

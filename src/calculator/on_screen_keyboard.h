@@ -34,7 +34,11 @@ class OnScreenKeyboard : public QFrame {
     void controlKeyClicked(int index);
 
   private:
+    static constexpr int kNarrowestKey = 30;
+    static constexpr int kCaptionPadding = 14;  // the button's frame and margins
+
     QPushButton* MakeKey(const QString& name, const QString& caption);
+    static void FitCaption(QPushButton* key, const QStringList& captions);
     const KeyCaptions& Layer() const;
     void ApplyLayer();
     void CheckControlKey(ControlKey role, bool on);

@@ -35,4 +35,16 @@ int ChoiceRow(int answer, int count) {
     return answer > 0 && answer <= count ? answer - 1 : -1;
 }
 
+namespace {
+constexpr std::string_view kSpaceWord = "スペース";
+}
+
+std::string ShownDelimiter(std::string_view delimiter) {
+    return std::string(delimiter == " " ? kSpaceWord : delimiter);
+}
+
+std::string TypedDelimiter(std::string_view shown) {
+    return std::string(shown == kSpaceWord ? std::string_view(" ") : shown);
+}
+
 }  // namespace lapdesk

@@ -16,6 +16,11 @@ inline constexpr int kPreviewLineLimit = 200;
 // The delimiters DelimiterList offers, in this order.
 inline constexpr std::array<std::string_view, 4> kDelimiters = {" ", ",", ";", "="};
 
+// The space delimiter is shown as the word "スペース", so it can be seen;
+// the word typed or chosen stands for one space again.
+std::string ShownDelimiter(std::string_view delimiter);
+std::string TypedDelimiter(std::string_view shown);
+
 // "001|text": the 1-based line number with at least three digits, "|", the
 // line's text.
 std::string PreviewEntry(int lineNumber, std::string_view text);

@@ -24,6 +24,13 @@ W* Named(W* widget, const char* name) {
     return widget;
 }
 
+QString ShownDelimiter(const QString& delimiter) {
+    return QString::fromStdString(lapdesk::ShownDelimiter(delimiter.toStdString()));
+}
+QString TypedDelimiter(const QString& shown) {
+    return QString::fromStdString(lapdesk::TypedDelimiter(shown.toStdString()));
+}
+
 const QColor kParameterLineColour(0xff, 0xf0, 0xb8);
 const QColor kFirstDataLineColour(0xd4, 0xf0, 0xd8);
 
@@ -65,6 +72,9 @@ ReadFileWisard::ReadFileWisard(QWidget* parent) : QDialog(parent) {
     sampleList_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     sampleList_->setMinimumSize(640, 260);
     sampleList_->setToolTip(QStringLiteral("ファイルの先頭 200 行（行番号|内容）"));
+    previewNote_ = Named(new QLabel, "PreviewNote");
+    previewNote_->setForegroundRole(QPalette::PlaceholderText);
+    previewNote_->hide();
 
     specialRow_ = MakeNumberList("SpecialRow", &WisardLabels::SpecialLb);
     topRow_ = MakeNumberList("TopRow", &WisardLabels::TopRowLb);
@@ -74,14 +84,17 @@ ReadFileWisard::ReadFileWisard(QWidget* parent) : QDialog(parent) {
     delimiterList_ = Named(new QComboBox, "DelimiterList");
     delimiterList_->setEditable(true);
     delimiterList_->setInsertPolicy(QComboBox::NoInsert);
+    delimiterList_->setMinimumContentsLength(6);  // room for "スペース"
     for (const std::string_view delimiter : kDelimiters) {
-        delimiterList_->addItem(QString::fromUtf8(delimiter.data(), delimiter.size()));
+        delimiterList_->addItem(
+            ShownDelimiter(QString::fromUtf8(delimiter.data(), delimiter.size())));
     }
     delimiterList_->setCurrentIndex(0);
-    connect(delimiterList_, &QComboBox::activated, this,
-            [this](int index) { labels_.DelmLb = delimiterList_->itemText(index); });
+    connect(delimiterList_, &QComboBox::activated, this, [this](int index) {
+        labels_.DelmLb = TypedDelimiter(delimiterList_->itemText(index));
+    });
     connect(delimiterList_->lineEdit(), &QLineEdit::returnPressed, this,
-            [this] { labels_.DelmLb = delimiterList_->currentText(); });
+            [this] { labels_.DelmLb = TypedDelimiter(delimiterList_->currentText()); });
     delimiterList_->installEventFilter(this);
     delimiterList_->lineEdit()->installEventFilter(this);
 
@@ -103,7 +116,7 @@ ReadFileWisard::ReadFileWisard(QWidget* parent) : QDialog(parent) {
                                  QStringLiteral("実部の列（虚部はその次の列）")));
     choices->addWidget(channelBox_);
     choices->addWidget(Captioned(QStringLiteral("区切り文字"), delimiterList_,
-                                 QStringLiteral("数値の間の文字（空白 , ; =）。"
+                                 QStringLiteral("数値の間の文字（スペース , ; =）。"
                                                 "入力した場合は Enter で確定します")));
     choices->addStretch();
 
@@ -116,6 +129,7 @@ ReadFileWisard::ReadFileWisard(QWidget* parent) : QDialog(parent) {
     layout->addWidget(guide);
     layout->addWidget(fileLabel_);
     layout->addWidget(sampleList_, 1);
+    layout->addWidget(previewNote_);
     layout->addLayout(choices);
     layout->addLayout(buttons);
 }
@@ -140,6 +154,7 @@ void ReadFileWisard::ShowChannelList(bool shown) {
 
 bool ReadFileWisard::ShowModal() {
     labels_.OkFlagLb = false;
+    readFailure_.clear();
     if (!Activate()) return false;
     emit activated();
     exec();
@@ -150,6 +165,7 @@ bool ReadFileWisard::ShowModal() {
 bool ReadFileWisard::Activate() {
     const LinesResult read = ReadTextLines(labels_.FileNameLb.toStdString());
     if (!read.ok) {
+        readFailure_ = QString::fromStdString(read.reason);
         ButtonCalcel_Click();
         return false;
     }
@@ -160,11 +176,15 @@ bool ReadFileWisard::Activate() {
         sampleList_->addItem(QString::fromStdString(entry));
     }
     const int lines = static_cast<int>(entries.size());
+    previewNote_->setText(QStringLiteral("ファイルは %1 行あります：先頭 %2 行だけを表示しています")
+                              .arg(read.lines.size())
+                              .arg(kPreviewLineLimit));
+    previewNote_->setVisible(static_cast<int>(read.lines.size()) > kPreviewLineLimit);
     FillNumberList(topRow_, lines, labels_.TopRowLb);
     FillNumberList(specialRow_, lines, labels_.SpecialLb);
     FillNumberList(topColumn_, labels_.MaxColumnLb, labels_.TopColumnLb);
     FillNumberList(chnoList_, labels_.MaxColumnLb, labels_.ChnoLb);
-    delimiterList_->setEditText(labels_.DelmLb);
+    delimiterList_->setEditText(ShownDelimiter(labels_.DelmLb));
     MarkPreview();
     buttonOk_->setDefault(true);
     buttonOk_->setFocus();

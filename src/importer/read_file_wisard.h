@@ -41,8 +41,10 @@ class ReadFileWisard : public QDialog {
 
     // Resets the accepted flag, previews the file named in FileNameLb and
     // shows the dialog modally. A file that cannot be read closes it at once,
-    // as Cancel does. Returns the accepted flag.
+    // as Cancel does, and leaves the reason in ReadFailure. Returns the
+    // accepted flag.
     bool ShowModal();
+    const QString& ReadFailure() const { return readFailure_; }
 
     void ButtonOk_Click();
     void ButtonCalcel_Click();
@@ -66,6 +68,8 @@ class ReadFileWisard : public QDialog {
     void ClosePreview(int result);
 
     WisardLabels labels_;
+    QString readFailure_;
+    QLabel* previewNote_ = nullptr;  // says that a long file is cut short
     QListWidget* sampleList_ = nullptr;
     QListWidget* specialRow_ = nullptr;
     QListWidget* topRow_ = nullptr;

@@ -18,6 +18,10 @@
 
 namespace lapdesk {
 
+// The reader keeps four numbers per line: the real part can stand in
+// columns 1 to 3 only, the imaginary part beside it.
+inline constexpr int kLastFirstColumn = 3;
+
 // Where the wizard says the numbers stand (lines and columns are 1-based).
 struct ImportAnswers {
     int ParamLine = 2;  // the line with N, T and gamma0

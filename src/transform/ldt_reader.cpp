@@ -1,9 +1,11 @@
 #include "transform/ldt_file.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "fileio/text_file.h"
@@ -23,15 +25,32 @@ struct LapData {
     std::vector<double> Im;
 };
 
+static_assert(static_cast<std::size_t>(kLastFirstColumn) + 1 == std::tuple_size_v<NumberRow>);
+
 std::string LineText(std::size_t line) {
     return "line " + std::to_string(line);
+}
+
+// What a line holds, quoted for a reason; a long line is cut after 40
+// characters (UTF-8 sequences are kept whole).
+std::string Found(std::string_view line) {
+    constexpr std::size_t kShown = 40;
+    std::size_t end = 0;
+    for (std::size_t characters = 0; end < line.size() && characters < kShown; ++characters) {
+        do {
+            ++end;
+        } while (end < line.size() && (static_cast<unsigned char>(line[end]) & 0xC0) == 0x80);
+    }
+    std::string quoted(1, '"');
+    quoted.append(line.substr(0, end)).append(end < line.size() ? "...\"" : "\"");
+    return quoted;
 }
 
 Outcome CheckAnswers(const ImportAnswers& answers) {
     if (answers.ParamLine < 1 || answers.DataLine < 1 || answers.FirstColumn < 1) {
         return Outcome::Failure("line and column numbers start at 1");
     }
-    if (answers.FirstColumn + 1 > static_cast<int>(NumberRow().size())) {
+    if (answers.FirstColumn > kLastFirstColumn) {
         return Outcome::Failure("first column " + std::to_string(answers.FirstColumn) +
                                 ": the reader keeps 4 numbers per line, so the real part can "
                                 "stand in columns 1 to 3 only");
@@ -45,17 +64,19 @@ Outcome ParseParameters(std::string_view line, std::size_t lineNumber, std::stri
     int count = 0;
     if (!SplitNumbers(line, delimiter, 3, count, row) || count < 3) {
         return Outcome::Failure(LineText(lineNumber) + ": expected N, T and gamma0, found " +
-                                std::to_string(count) + " numbers");
+                                std::to_string(count) + " numbers in " + Found(line));
     }
     const double n = std::nearbyint(row[0]);
     if (!(n >= 128 && n <= 4096) || (static_cast<int>(n) & (static_cast<int>(n) - 1)) != 0) {
         return Outcome::Failure(LineText(lineNumber) +
                                 ": N must be a power of two from 128 to 4096, not " +
-                                DoubleToText(row[0]));
+                                DoubleToText(row[0]) + " (column 1 of " + Found(line) + ")");
     }
     if (!(row[1] > 0.0 && std::isfinite(row[1])) || !(row[2] > 0.0 && std::isfinite(row[2]))) {
         return Outcome::Failure(LineText(lineNumber) +
-                                ": T and gamma0 must be numbers greater than 0");
+                                ": T and gamma0 must be numbers greater than 0, found " +
+                                DoubleToText(row[1]) + " and " + DoubleToText(row[2]) +
+                                " in columns 2 and 3 of " + Found(line));
     }
     data.N = static_cast<std::int16_t>(n);
     data.T = row[1];
@@ -75,12 +96,16 @@ Outcome ParseSamples(const std::vector<std::string>& lines, std::size_t first,
     const int column = answers.FirstColumn - 1;
     for (std::size_t i = 0; i < static_cast<std::size_t>(data.N); ++i) {
         int count = 0;
-        if (!SplitNumbers(lines[first + i], answers.Delimiter, answers.FirstColumn + 2, count,
-                          row)) {
-            return Outcome::Failure(LineText(first + i + 1) + ": no numbers");
+        const std::string& line = lines[first + i];
+        if (!SplitNumbers(line, answers.Delimiter, answers.FirstColumn + 2, count, row)) {
+            return Outcome::Failure(LineText(first + i + 1) + ": no numbers, the line is blank");
         }
-        if (!std::isfinite(row[column]) || !std::isfinite(row[column + 1])) {
-            return Outcome::Failure(LineText(first + i + 1) + ": a number is out of range");
+        for (const int at : {column, column + 1}) {
+            if (!std::isfinite(row[at])) {
+                return Outcome::Failure(LineText(first + i + 1) +
+                                        ": a number is out of range in column " +
+                                        std::to_string(at + 1) + " of " + Found(line));
+            }
         }
         data.Re.push_back(row[column]);
         data.Im.push_back(row[column + 1]);

@@ -1,7 +1,8 @@
 // Saves PNG pictures of the calculator window in each of its views, driven
 // by object name as a person would drive it: at start, calculator mode,
 // program mode after a run, the execution list, the memory display with an
-// array open, an error message waiting to be dismissed, the marked line.
+// array open, an error message waiting to be dismissed, the marked line, a
+// result too long for its label, and the window at its least size.
 // Usage: calculator_screenshots <folder>
 #include <QAction>
 #include <QApplication>
@@ -12,6 +13,7 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 #include <QTimer>
 #include <cstdio>
@@ -90,6 +92,22 @@ void ShootError(FrmCplCal& window, const QDir& folder) {
     Save(window, folder, QStringLiteral("6-error-marked"));
 }
 
+// The least window in both modes and with the memory display, the keyboard
+// shown, a long value.
+void ShootSmall(FrmCplCal& window, const QDir& folder) {
+    window.findChild<QRadioButton*>(QStringLiteral("OptionNomal"))->click();
+    Click(window, "CommandKeyBoard");
+    Type(window, QStringLiteral("-1.23456789012345E+300*(1+1j)/3"));
+    window.resize(window.minimumSizeHint());
+    Save(window, folder, QStringLiteral("7-smallest-calculator"));
+    window.findChild<QRadioButton*>(QStringLiteral("OptionProgram"))->click();
+    window.resize(window.minimumSizeHint());
+    Save(window, folder, QStringLiteral("8-smallest-program"));
+    Trigger(window, "MenueShowMemory");
+    window.resize(window.minimumSizeHint());
+    Save(window, folder, QStringLiteral("9-smallest-memory"));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -121,6 +139,8 @@ int main(int argc, char** argv) {
     ShootMemory(window, folder);
     photographMessage = true;
     ShootError(window, folder);
+    photographMessage = false;
+    ShootSmall(window, folder);
     std::printf("screenshots in %s\n", qPrintable(folder.absolutePath()));
     return 0;
 }

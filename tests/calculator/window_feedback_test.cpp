@@ -6,6 +6,7 @@
 #include <QStatusBar>
 
 #include "calculator/code_editor.h"
+#include "calculator/keyboard_layers.h"
 #include "window_fixture.h"
 
 namespace lapdesk::testing {
@@ -85,6 +86,8 @@ TEST_F(FeedbackTest, AStoppedRunIsToldApartFromAFailedOne) {
     Click("ButtonPrgRun");
     EXPECT_EQ(window->statusBar()->currentMessage(),
               QStringLiteral("プログラムの実行が失敗しました"));
+    TypeLine(QStringLiteral("1+1"));
+    EXPECT_EQ(window->statusBar()->currentMessage(), QString()) << "the next line makes it old";
 }
 
 TEST_F(FeedbackTest, EnterKeepsTheFocusInTheLineWithTheMemoryDisplayOpen) {
@@ -117,14 +120,25 @@ TEST_F(FeedbackTest, AWaitingMessageKeepsStrayKeysOutOfTheProgram) {
     const QString program = QStringLiteral("a = 0\nReturn 1 / a\nEnd");
     SetProgram(program);
     QString focusedWhileWaiting;
+    bool lineWhileWaiting = false;
+    bool memoryWhileWaiting = false;
     QObject::connect(window.get(), &FrmCplCal::messageShown, window.get(), [&] {
         focusedWhileWaiting = QApplication::focusWidget()->objectName();
+        lineWhileWaiting = Immediate()->isEnabled();
+        memoryWhileWaiting = Find<QWidget>("FrmMemory")->isEnabled();
         QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("xyz"));
         QTest::keyClicks(Editor(), QStringLiteral("xyz"));
+        // The on-screen keyboard and the word menus write into the active
+        // box, which is the program here.
+        window->Key_Click(0);
+        window->InsertWord(QStringLiteral("Sin()"), 1);
+        window->Ctlkey_Click(static_cast<int>(ControlKeyCaptions().indexOf(QStringLiteral("CLR"))));
     });
     Click("ButtonPrgRun");
     ASSERT_EQ(messages.size(), 1);
     EXPECT_EQ(focusedWhileWaiting, QStringLiteral("MessageBase"));
+    EXPECT_TRUE(lineWhileWaiting) << "only the program buttons and the File menu wait";
+    EXPECT_TRUE(memoryWhileWaiting);
     EXPECT_EQ(Editor()->toPlainText(), program);
     EXPECT_FALSE(Editor()->isReadOnly()) << "editable again once the message is gone";
     EXPECT_EQ(QApplication::focusWidget(), Editor());

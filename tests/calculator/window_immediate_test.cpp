@@ -1,5 +1,8 @@
 // The immediate line, its history gestures, the result label and the error
 // message panel.
+#include <QApplication>
+
+#include "calculator/elided_label.h"
 #include "window_fixture.h"
 
 namespace lapdesk::testing {
@@ -91,6 +94,26 @@ TEST_F(ImmediateLineTest, HistoryDoubleClickZooms) {
     history->clear();
     QTest::mouseDClick(history->viewport(), Qt::LeftButton, {}, QPoint(10, 10));
     EXPECT_EQ(history->font().pointSize(), 12);
+}
+
+// A value wider than the result label is cut there and shown whole in the
+// tooltip and the history; the window keeps its width.
+TEST_F(ImmediateLineTest, ALongResultIsCutNotWidened) {
+    auto* kai = Find<ElidedLabel>("kai");
+    QFont zoomed = kai->font();
+    zoomed.setPointSize(32);  // as far as a user may zoom it
+    kai->setFont(zoomed);
+    window->resize(window->minimumSizeHint());
+    QApplication::processEvents();
+    const int width = window->width();
+    const QString line = QStringLiteral("-1.23456789012345E+300*(1+1j)/3");
+    TypeLine(line);
+    QApplication::processEvents();
+    ASSERT_GT(kai->fontMetrics().horizontalAdvance(kai->FullText()), kai->width());
+    EXPECT_EQ(window->width(), width);
+    EXPECT_TRUE(Kai().endsWith(QChar(0x2026))) << Kai().toStdString();
+    EXPECT_TRUE(kai->toolTip().startsWith(kai->FullText()));
+    EXPECT_EQ(Find<QListWidget>("HistryList")->item(0)->text(), line + " = " + kai->FullText());
 }
 
 TEST_F(ImmediateLineTest, ResultAndImmediateBoxZoom) {

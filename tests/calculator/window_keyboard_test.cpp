@@ -2,6 +2,9 @@
 // control keys acting on the active text box.
 #include <QApplication>
 #include <QClipboard>
+#include <QSet>
+
+#include "calculator/keyboard_layers.h"
 
 #include "window_fixture.h"
 
@@ -39,6 +42,11 @@ TEST_F(KeyboardTest, CharacterKeysInsertAtTheCaret) {
     Key(10);  // π
     EXPECT_EQ(Immediate()->text(), QStringLiteral("1π/2 a    "));
     EXPECT_EQ(Immediate()->cursorPosition(), 2);
+    Immediate()->setSelection(0, 2);
+    Key(1);  // replaces the selection
+    EXPECT_EQ(Immediate()->text(), QStringLiteral("2/2 a    "));
+    EXPECT_EQ(Immediate()->cursorPosition(), 1);
+    EXPECT_FALSE(Immediate()->hasSelectedText());
 }
 
 TEST_F(KeyboardTest, ShiftedLayer) {
@@ -125,19 +133,59 @@ TEST_F(KeyboardTest, ProgramTextGetsLineBreaks) {
     EXPECT_TRUE(Editor()->hasFocus());
 }
 
-TEST_F(KeyboardTest, EscapePutsTheKeyboardAway) {
+TEST_F(KeyboardTest, EscapePutsTheKeyboardAwayAsItsHintSays) {
+    EXPECT_TRUE(Find<QLabel>("KeyboardHint")->isVisible());
+    EXPECT_TRUE(Find<QLabel>("KeyboardHint")->text().startsWith(QStringLiteral("ESC")));
     Control(QStringLiteral("ESC"));
     EXPECT_FALSE(Find<QWidget>("FrameKeyBoard")->isVisible());
+    Click("CommandKeyBoard");
+    ASSERT_TRUE(Find<QWidget>("FrameKeyBoard")->isVisible());
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_FALSE(Find<QWidget>("FrameKeyBoard")->isVisible()) << "the Esc key as well";
 }
 
-TEST_F(KeyboardTest, InsertAtCaretReplacesTheSelection) {
-    Immediate()->setText(QStringLiteral("Sin(x)"));
-    Immediate()->setFocus();
-    Immediate()->setSelection(4, 1);
-    window->InsertAtCaret(QStringLiteral("π/2"));
-    EXPECT_EQ(Immediate()->text(), QStringLiteral("Sin(π/2)"));
-    EXPECT_EQ(Immediate()->cursorPosition(), 7);
-    EXPECT_FALSE(Immediate()->hasSelectedText());
+// In the narrowest window: the rows of the three blocks line up, the arrows
+// stand side by side in their order, and every caption fits its key.
+TEST_F(KeyboardTest, RowsLineUpArrowsStandInOrderAndCaptionsFit) {
+    window->resize(window->minimumSizeHint());
+    QApplication::processEvents();
+    auto top = [this](const QString& name) {
+        QWidget* key = Find<QWidget>(name.toLatin1().constData());
+        return key->mapTo(window.get(), QPoint(0, 0)).y();
+    };
+    auto control = [this](const char* caption) {
+        const int index =
+            static_cast<int>(ControlKeyCaptions().indexOf(QString::fromUtf8(caption)));
+        return Find<QWidget>(QStringLiteral("Ctlkey_%1").arg(index).toLatin1().constData());
+    };
+    const struct {
+        const char* character;
+        const char* keypad;  // none on the last row
+        const char* controlKey;
+    } rows[] = {{"Key_0", "TenKey_0", "BS"},
+                {"Key_28", "TenKey_4", "←"},
+                {"Key_12", "TenKey_8", "CUT"},
+                {"Key_37", "TenKey_12", "CAPS"},
+                {"Key_45", nullptr, "ESC"}};
+    for (const auto& row : rows) {
+        const int y = top(QString::fromLatin1(row.character));
+        if (row.keypad != nullptr) {
+            EXPECT_EQ(top(QString::fromLatin1(row.keypad)), y) << row.keypad;
+        }
+        EXPECT_EQ(control(row.controlKey)->mapTo(window.get(), QPoint(0, 0)).y(), y)
+            << row.controlKey;
+    }
+    EXPECT_LT(control("←")->x(), control("→")->x());
+    EXPECT_EQ(control("←")->y(), control("→")->y());
+    QSet<QPoint> places;
+    for (const QString& caption : ControlKeyCaptions()) {
+        places << control(caption.toUtf8().constData())->pos();
+    }
+    EXPECT_EQ(places.size(), ControlKeyCaptions().size()) << "every control key has its place";
+    for (QPushButton* key : Find<QWidget>("FrameKeyBoard")->findChildren<QPushButton*>()) {
+        EXPECT_LE(key->fontMetrics().horizontalAdvance(key->text()) + 8, key->width())
+            << key->objectName().toStdString() << " " << key->text().toStdString();
+    }
 }
 
 }  // namespace

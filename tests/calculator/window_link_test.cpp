@@ -85,9 +85,13 @@ TEST_F(LinkTest, LinkedRunKeepsTheTransformParameters) {
 TEST_F(LinkTest, ChannelMenusAreFilledByTheClientAndInsert) {
     window->LoadDmChnMenue();
     EXPECT_TRUE(Find<QMenu>("MenueChVp")->actions().isEmpty()) << "no client yet";
+    EXPECT_FALSE(Find<QMenu>("MenueData")->menuAction()->isVisible()) << "no empty menus";
     FakeChannels channels;
     window->DmCliant(&channels);
     ASSERT_EQ(Find<QMenu>("MenueChVp")->actions().size(), 2);
+    EXPECT_TRUE(Find<QMenu>("MenueData")->menuAction()->isVisible());
+    EXPECT_TRUE(Find<QMenu>("MenueAver")->menuAction()->isVisible());
+    EXPECT_FALSE(Find<QMenu>("MenueChVp2")->menuAction()->isVisible()) << "this one stays empty";
     const struct {
         const char* menu;
         int index;

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -87,7 +88,9 @@ class WisardTest : public ::testing::Test {
 TEST_F(WisardTest, PreviewsTheFileAndOffersLinesAndColumns) {
     UseFile("Word Number,  Tend ,  Ganma\r\n    128    ,  5.000E+00 ,   5.0\r\n1,2\r\n");
     QStringList preview, lines, parameterLines, columns;
+    bool noted = true;
     EXPECT_TRUE(Show([&] {
+        noted = Find<QLabel>("PreviewNote")->isVisible();
         preview = Rows("SampleList");
         lines = Rows("TopRow");
         parameterLines = Rows("SpecialRow");
@@ -99,6 +102,7 @@ TEST_F(WisardTest, PreviewsTheFileAndOffersLinesAndColumns) {
     EXPECT_EQ(lines, (QStringList{"1", "2", "3"}));
     EXPECT_EQ(parameterLines, lines);
     EXPECT_EQ(columns, (QStringList{"1", "2", "3", "4", "5"}));
+    EXPECT_FALSE(noted) << "the whole file is shown";
     EXPECT_EQ(Rows("SampleList"), QStringList()) << "closing clears the preview";
 }
 
@@ -118,11 +122,14 @@ TEST_F(WisardTest, ShowsOnlyTheFirst200LinesOfALongFile) {
         text += std::to_string(n) + ",0\r\n";
     UseFile(text);
     QStringList preview, lines;
+    QString note;
     Show([&] {
         preview = Rows("SampleList");
         lines = Rows("TopRow");
+        if (Find<QLabel>("PreviewNote")->isVisible()) note = Find<QLabel>("PreviewNote")->text();
         ClickCancel();
     });
+    EXPECT_TRUE(note.contains(QStringLiteral("300 行"))) << note.toStdString();
     ASSERT_EQ(preview.size(), 200);
     EXPECT_EQ(preview.back(), QStringLiteral("200|200,0"));
     ASSERT_EQ(lines.size(), 200);
@@ -189,12 +196,32 @@ TEST_F(WisardTest, MarksTheChosenLinesInThePreview) {
     EXPECT_EQ(afterChoice, (QStringList{"2", "10"}));
 }
 
-TEST_F(WisardTest, OffersTheDelimitersInOrder) {
-    QComboBox* delimiters = Find<QComboBox>("DelimiterList");
-    QStringList items;
-    for (int k = 0; k < delimiters->count(); ++k)
-        items << delimiters->itemText(k);
-    EXPECT_EQ(items, (QStringList{" ", ",", ";", "="}));
+// The space is offered as a word that can be seen, and chosen or typed it
+// stands for one space again.
+TEST_F(WisardTest, TheSpaceDelimiterIsShownAsAWord) {
+    UseFile("1 2\r\n");
+    wisard.labels().DelmLb = QStringLiteral(" ");
+    QString shown;
+    EXPECT_TRUE(Show([&] {
+        QComboBox* delimiters = Find<QComboBox>("DelimiterList");
+        shown = delimiters->currentText();
+        delimiters->setCurrentIndex(1);
+        emit delimiters->activated(1);
+        delimiters->setCurrentIndex(0);
+        emit delimiters->activated(0);
+        ClickOk();
+    }));
+    EXPECT_EQ(shown, QStringLiteral("スペース"));
+    EXPECT_EQ(wisard.labels().DelmLb, QStringLiteral(" "));
+
+    wisard.labels().DelmLb = QStringLiteral(",");
+    EXPECT_TRUE(Show([&] {
+        QLineEdit* typed = Find<QComboBox>("DelimiterList")->lineEdit();
+        typed->setText(QStringLiteral("スペース"));
+        emit typed->returnPressed();
+        ClickOk();
+    }));
+    EXPECT_EQ(wisard.labels().DelmLb, QStringLiteral(" ")) << "typed as the word";
 }
 
 TEST_F(WisardTest, AnEmptyFileGivesEmptyListsAndKeepsTheAnswers) {
@@ -246,6 +273,7 @@ TEST_F(WisardTest, AFileThatCannotBeReadClosesAtOnce) {
     EXPECT_FALSE(Show([] {}));
     EXPECT_FALSE(answered) << "the dialog never showed";
     EXPECT_FALSE(wisard.labels().OkFlagLb);
+    EXPECT_FALSE(wisard.ReadFailure().isEmpty()) << "the reason is kept for the caller";
 }
 
 TEST_F(WisardTest, EnterConfirmsATypedDelimiterWithoutClosing) {

@@ -8,6 +8,7 @@
 #include <QPushButton>
 
 #include "form_fixture.h"
+#include "transform/window/window_placement.h"
 
 namespace lapdesk::testing {
 namespace {
@@ -134,6 +135,32 @@ TEST_F(ControlsTest, StartsWithTheDefaultsAndALinkedCalculator) {
     EXPECT_DOUBLE_EQ(Scrn()->xAxis->range().upper, 5.0);
     EXPECT_DOUBLE_EQ(Scrn()->yAxis->range().upper, 1.1);
     EXPECT_DOUBLE_EQ(Scrn()->yAxis->range().lower, -1.1);
+}
+
+// The calculator opens beside the transform window (screen 0..1999 wide,
+// main window 1000 wide, calculator 600 wide, 8 apart).
+TEST(WindowPlacement, TheCalculatorStandsBesideThePlot) {
+    const QRect screen(0, 0, 2000, 1000);
+    const struct {
+        const char* name;
+        int mainLeft;
+        int mainWidth;
+        QPoint main;
+        QPoint beside;
+    } rows[] = {
+        {"room on the right", 100, 1000, {100, 50}, {1108, 50}},
+        {"room on the left", 900, 1000, {900, 50}, {292, 50}},
+        {"the main window moves over", 500, 1000, {196, 50}, {1204, 50}},
+        {"no room for both", 500, 1600, {0, 50}, {1400, 50}},
+    };
+    for (const auto& row : rows) {
+        const WindowPlacement place =
+            PlaceBeside(QRect(row.mainLeft, 50, row.mainWidth, 700), QSize(600, 700), screen, 8);
+        EXPECT_EQ(place.main, row.main) << row.name;
+        EXPECT_EQ(place.beside, row.beside) << row.name;
+    }
+    EXPECT_EQ(PlaceBeside(QRect(100, 600, 1000, 700), QSize(600, 700), screen, 8).beside.y(), 300)
+        << "kept on the screen";
 }
 
 TEST_F(ControlsTest, EndClosesBothWindows) {

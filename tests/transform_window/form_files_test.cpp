@@ -95,23 +95,44 @@ TEST_F(FilesTest, NoFileNameOrACancelledWizardReadsNothing) {
     Action("MenueReadLapData")->trigger();
     EXPECT_EQ(wisardShowings, 1);
     EXPECT_EQ(form->wisard().labels().FileNameLb, PathOf("other.Ldt"));
-    EXPECT_EQ(form->wisard().labels().MaxColumnLb, 5);
+    EXPECT_EQ(form->wisard().labels().MaxColumnLb, 3) << "only columns the reader can read";
     EXPECT_EQ(statuses.back(), QStringLiteral("データ読込み失敗"));
     EXPECT_EQ(Text("DataSourceLb"), QStringLiteral("Math")) << "nothing changed";
     EXPECT_EQ(Text("WordNumberLb"), QStringLiteral("256"));
     EXPECT_EQ(form->driver().Store()[kResult].Values, before);
 }
 
-TEST_F(FilesTest, AFileThatDoesNotFitTheAnswersReadsNothing) {
-    WriteBytes(folder / "short.Ldt", "Word Number\r\n    128    ,5,5\r\n1,2\r\n");
-    script->files = {PathOf("short.Ldt")};
-    const WisardAnswers answers;
-    AnswerWisard(&answers);
-    Click("ButtonDataRead");
-    EXPECT_TRUE(SawStatus(QStringLiteral("データ読込み失敗")));
-    EXPECT_TRUE(statuses.back().startsWith(QStringLiteral("データ読込み失敗：")));
-    EXPECT_TRUE(Text("StatusBar").contains(QStringLiteral("131"))) << "the reason is shown";
-    EXPECT_EQ(Text("DataSourceLb"), QStringLiteral("Non"));
+// The status says which line failed, in which column, and what it holds;
+// a file the wizard cannot even preview says why as well.
+TEST_F(FilesTest, AFailedReadSaysWhereAndWhatWasFound) {
+    std::string hugeFirstSample = "Word Number\r\n128,5,5\r\nRe,Im\r\n0,1e400\r\n";
+    for (int k = 1; k < 128; ++k)
+        hugeFirstSample += "0,0\r\n";
+    const struct {
+        std::string bytes;
+        bool wisardShows;
+        const char* reason;
+    } rows[] = {
+        {"Word Number\r\n    128    ,5,5\r\n1,2\r\n", true, "need 131"},
+        {"Word Number\r\n    128    ,5\r\n", true, "found 2 numbers in \"    128    ,5\""},
+        {hugeFirstSample, true, "line 4: a number is out of range in column 2 of \"0,1e400\""},
+        {"Word Number\r\n\x81\x20\r\n", false, "cp932"},
+    };
+    for (const auto& row : rows) {
+        WriteBytes(folder / "bad.Ldt", row.bytes);
+        script->files = {PathOf("bad.Ldt")};
+        const WisardAnswers answers;
+        AnswerWisard(&answers);
+        wisardShowings = 0;
+        Click("ButtonDataRead");
+        EXPECT_EQ(wisardShowings, row.wisardShows ? 1 : 0) << row.reason;
+        EXPECT_TRUE(Text("StatusBar").startsWith(QStringLiteral("データ読込み失敗：")))
+            << Text("StatusBar").toStdString();
+        EXPECT_TRUE(Text("StatusBar").contains(QString::fromUtf8(row.reason)))
+            << Text("StatusBar").toStdString();
+        EXPECT_EQ(Find<QLabel>("StatusBar")->toolTip(), Text("StatusBar"));
+        EXPECT_EQ(Text("DataSourceLb"), QStringLiteral("Non"));
+    }
 }
 
 TEST_F(FilesTest, TheCalculatorsProgramIsReadAndSaved) {
@@ -127,12 +148,6 @@ TEST_F(FilesTest, TheCalculatorsProgramIsReadAndSaved) {
     Action("MenueProgramWrite")->trigger();
     EXPECT_EQ(ReadBytes(folder / "saved.Prg"), "Return 1/(p+1)\r\nEnd\r\n");
 }
-
-}  // namespace
-}  // namespace lapdesk::testing
-
-namespace lapdesk::testing {
-namespace {
 
 TEST_F(FilesTest, DataDialogsChooseLdtAndStartWhereTheLastFileWas) {
     const QString program = PathOf("ramp.Prg");

@@ -80,7 +80,7 @@ TEST_F(PlotTest, TheReadoutOfDataNamesTheSampleIndex) {
     ScrnPlot* scrn = Scrn();
     const QPoint at(scrn->xAxis->coordToPixel(128.0), scrn->yAxis->coordToPixel(0.0));
     QTest::mouseMove(scrn, at);
-    EXPECT_EQ(Text("PosX"), QStringLiteral("t= 2.5 (k= 128)"));
+    EXPECT_EQ(Text("PosX"), QStringLiteral("k= 128"));
 }
 
 TEST_F(PlotTest, TheReadoutFollowsAPanAndTheCopyIsOfTheCursorsPlace) {
@@ -173,6 +173,27 @@ TEST_F(PlotTest, TheResultFrameShowsTheTableAndHides) {
     Click("ButtonCallPfunction");
     EXPECT_FALSE(frame->isVisible()) << "opening the calculator hides the table";
     EXPECT_TRUE(Calculator().isVisible());
+}
+
+// Shrinking the window to its least size brings the frame back inside the
+// plot, its buttons whole; growing it again gives the frame its size back.
+TEST_F(PlotTest, TheResultFrameStaysInsideTheSmallestPlot) {
+    RunProgram(QStringLiteral("Return 1/(p+1)\nEnd"));
+    auto* frame = Find<QWidget>("Frame3");
+    const QSize full = frame->size();
+    form->resize(form->minimumSizeHint());
+    QApplication::processEvents();
+    ASSERT_TRUE(frame->isVisible());
+    EXPECT_TRUE(Scrn()->rect().contains(frame->geometry()));
+    for (const char* name : {"Command1", "Command3", "Check1"}) {
+        auto* button = Find<QWidget>(name);
+        EXPECT_TRUE(
+            frame->rect().contains(QRect(button->mapTo(frame, QPoint(0, 0)), button->size())))
+            << name;
+    }
+    form->resize(1180, 720);
+    QApplication::processEvents();
+    EXPECT_EQ(frame->size(), full);
 }
 
 TEST_F(PlotTest, TheResultFrameIsDraggedWithTheLeftButton) {

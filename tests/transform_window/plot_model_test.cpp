@@ -81,20 +81,18 @@ TEST(PlotModel, EmptyBoxSpansTheRecordAndOnePointOneEachWay) {
     EXPECT_DOUBLE_EQ(content.y.upper, 1.1);
 }
 
-TEST(PlotModel, ReadoutOfDataNamesTheNearestSampleAndItsTime) {
+TEST(PlotModel, ReadoutOfDataNamesTheNearestSample) {
     const struct {
         PlotView view;
         double x;
         const char* text;
     } rows[] = {
-        {PlotView::Data, 127.8, "t= 2.5 (k= 128)"},
-        {PlotView::Data, -3.0, "t= 0 (k= 0)"},
-        {PlotView::Data, 400.0, "t= 4.9805 (k= 255)"},
-        {PlotView::Result, 2.5, "t= 2.5"},
+        {PlotView::Data, 127.8, "k= 128"}, {PlotView::Data, -3.0, "k= 0"},
+        {PlotView::Data, 400.0, "k= 255"}, {PlotView::Result, 2.5, "t= 2.5"},
         {PlotView::None, 1.25, "t= 1.25"},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(ReadoutXText(row.view, row.x, 5.0, 256), row.text) << row.x;
+        EXPECT_EQ(ReadoutXText(row.view, row.x, 256), row.text) << row.x;
     }
 }
 

@@ -1,7 +1,8 @@
 // Saves PNG pictures of the transform window driven by object name as a
 // person would drive it: at start, after a transform (plot and result
 // frame), the samples with the cursor readout, the import wizard on the
-// saved file, and the calculator beside the transform window.
+// saved file, the calculator beside the transform window, the result read
+// back, a failed run with its reason, and the window at its least size.
 // Usage: transform_screenshots <folder>
 #include <QApplication>
 #include <QComboBox>
@@ -129,9 +130,21 @@ int main(int argc, char** argv) {
                      Qt::NoModifier);
     QApplication::sendEvent(scrn, &move);
     Save(Grab(form), folder, QStringLiteral("transform-2-data-readout"));
+    QEvent leave(QEvent::Leave);  // the mouse goes on to the buttons
+    QApplication::sendEvent(scrn, &leave);
 
     Click(form, "ButtonResultWrite");
     ShootWizard(form, folder);
     Save(Grab(form), folder, QStringLiteral("transform-5-read-back"));
+
+    // gamma0 = 800 overflows the inversion: no stale curve, the reason shown.
+    Enter(form, "Ganmalb", "GanmaText", "800");
+    Click(form, "Command2");
+    Save(Grab(form), folder, QStringLiteral("transform-6-failure"));
+
+    Enter(form, "Ganmalb", "GanmaText", "5");
+    Click(form, "Command2");
+    form.resize(form.minimumSizeHint());
+    Save(Grab(form), folder, QStringLiteral("transform-7-smallest"));
     return 0;
 }

@@ -8,6 +8,12 @@ namespace lapdesk {
 DraggableFrame::DraggableFrame(const QString& title, QWidget* parent) : QGroupBox(title, parent) {
     setCursor(Qt::SizeAllCursor);
     setAutoFillBackground(true);
+    if (parent != nullptr) parent->installEventFilter(this);
+}
+
+void DraggableFrame::SetPreferredSize(QSize size) {
+    preferred_ = size;
+    MoveWithin(pos());
 }
 
 void DraggableFrame::MoveWithin(QPoint topLeft) {
@@ -16,9 +22,17 @@ void DraggableFrame::MoveWithin(QPoint topLeft) {
         move(topLeft);
         return;
     }
+    if (preferred_.isValid()) {
+        resize(preferred_.boundedTo(area->size()).expandedTo(minimumSizeHint()));
+    }
     const int x = std::clamp(topLeft.x(), 0, std::max(0, area->width() - width()));
     const int y = std::clamp(topLeft.y(), 0, std::max(0, area->height() - height()));
     move(x, y);
+}
+
+bool DraggableFrame::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == parentWidget() && event->type() == QEvent::Resize) MoveWithin(pos());
+    return QGroupBox::eventFilter(watched, event);
 }
 
 void DraggableFrame::mousePressEvent(QMouseEvent* event) {

@@ -20,6 +20,7 @@
 #include "transform/window/accuracy/accuracy_view.h"
 #include "transform/window/draggable_frame.h"
 #include "transform/window/plot/scrn_plot.h"
+#include "transform/window/window_placement.h"
 
 namespace lapdesk {
 
@@ -141,17 +142,16 @@ void TesmorForm::SetBusy(bool busy) {
 }
 
 // Opening the calculator hides the result frame; the calculator opens in
-// program mode, beside this window the first time.
+// program mode, beside this window the first time (this window moves over
+// when the screen has room for both only that way).
 void TesmorForm::OpenCalculator() {
     frame3_->hide();
-    if (!calculatorPlaced_) {
+    if (!calculatorPlaced_ && screen() != nullptr) {
         calculatorPlaced_ = true;
-        const QScreen* screen = this->screen();
-        const QPoint beside = frameGeometry().topRight() + QPoint(8, 0);
-        if (screen != nullptr &&
-            screen->availableGeometry().contains(QRect(beside, calculator_->frameSize()))) {
-            calculator_->move(beside);
-        }
+        const WindowPlacement place = PlaceBeside(frameGeometry(), calculator_->frameSize(),
+                                                  screen()->availableGeometry(), 8);
+        if (place.main != frameGeometry().topLeft()) move(place.main);
+        calculator_->move(place.beside);
     }
     calculator_->show();
     calculator_->raise();

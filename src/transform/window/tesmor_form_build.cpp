@@ -202,7 +202,8 @@ void TesmorForm::BuildResultFrame() {
     auto* layout = new QVBoxLayout(frame3_);
     layout->addWidget(text1_, 1);
     layout->addLayout(buttons);
-    frame3_->resize(QFontMetrics(fixed).horizontalAdvance(QString(64, QLatin1Char('0'))) + 48, 300);
+    frame3_->SetPreferredSize(
+        {QFontMetrics(fixed).horizontalAdvance(QString(64, QLatin1Char('0'))) + 48, 300});
     frame3_->hide();
 }
 

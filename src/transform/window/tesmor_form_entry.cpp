@@ -163,9 +163,10 @@ void TesmorForm::ShowReadout() {
     const Conditions c = driver_.GetConditions();
     const double x = scrn_->xAxis->pixelToCoord(cursor_.x());
     const double y = scrn_->yAxis->pixelToCoord(cursor_.y());
-    posX_->setText(QString::fromStdString(ReadoutXText(scrn_->view(), x, c.T, c.N)));
+    posX_->setText(QString::fromStdString(ReadoutXText(scrn_->view(), x, c.N)));
     posY_->setText(QString::fromStdString(ReadoutText("y= ", y)));
-    accuracy_->ShowReadout(driver_, x);  // x is t wherever the accurate values show
+    // The accuracy readout shows only over the result, where x is t.
+    accuracy_->ShowReadout(driver_, x);
     floatLb_->setText(posX_->text() + QLatin1Char('\n') + posY_->text());
     floatLb_->adjustSize();
     QPoint place = cursor_.toPoint() + QPoint(14, 14);

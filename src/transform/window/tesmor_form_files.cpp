@@ -44,9 +44,11 @@ void TesmorForm::ReadLapData() {
     fileName_ = path;
     WisardLabels& answers = wisard_->labels();
     answers.FileNameLb = path;
-    answers.MaxColumnLb = 5;
+    // Only the first columns the reader can read are offered.
+    answers.MaxColumnLb = kLastFirstColumn;
     if (!wisard_->ShowModal()) {
         SetStatus(kReadFailed);
+        if (!wisard_->ReadFailure().isEmpty()) ShowFailure(wisard_->ReadFailure().toStdString());
         return;
     }
     const ImportAnswers where{answers.SpecialLb, answers.TopRowLb, answers.TopColumnLb,

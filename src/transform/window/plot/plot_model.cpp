@@ -69,11 +69,9 @@ PlotContent EmptyContent(double tEnd) {
     return content;
 }
 
-std::string ReadoutXText(PlotView view, double x, double tEnd, int n) {
+std::string ReadoutXText(PlotView view, double x, int n) {
     if (view != PlotView::Data || n <= 0 || !std::isfinite(x)) return ReadoutText("t= ", x);
-    const long k = std::clamp(std::lround(x), 0L, static_cast<long>(n) - 1);
-    return ReadoutText("t= ", static_cast<double>(k) * tEnd / n) + " (k= " + std::to_string(k) +
-           ")";
+    return "k= " + std::to_string(std::clamp(std::lround(x), 0L, static_cast<long>(n) - 1));
 }
 
 std::string ReadoutText(std::string_view prefix, double value) {

@@ -54,9 +54,9 @@ PlotContent ResultContent(const TransformDriver& driver);
 PlotContent EmptyContent(double tEnd);
 
 // The readout of the cursor's x: "t= 1.25" over the result; over the data,
-// which are drawn against their index, the sample k nearest the cursor and
-// its t = k*T/N, as "t= 0.3125 (k= 16)".
-std::string ReadoutXText(PlotView view, double x, double tEnd, int n);
+// which are drawn against their index, the sample k nearest the cursor, as
+// "k= 16".
+std::string ReadoutXText(PlotView view, double x, int n);
 
 // "t= 1.2346": the prefix and the value with 5 significant digits.
 std::string ReadoutText(std::string_view prefix, double value);

@@ -85,16 +85,19 @@ void ScrnPlot::AddCurves(const PlotContent& content) {
     mark->point1->setCoords(content.reliableUntil, 0.0);
     mark->point2->setCoords(content.reliableUntil, 1.0);
     mark->setPen(QPen(QColor(0x99, 0x99, 0x99), 1, Qt::DashLine));
-    // What the mark means, at its top.
+    // What the mark means, at its foot on the reliable side: the fifth of
+    // the box after it is too narrow for the text, and the result frame
+    // starts out over the box's upper right.
     auto* note = new QCPItemText(this);
     note->setObjectName(QStringLiteral("ReliableMarkNote"));
     note->position->setTypeX(QCPItemPosition::ptPlotCoords);
     note->position->setTypeY(QCPItemPosition::ptAxisRectRatio);
-    note->position->setCoords(content.reliableUntil, 0.0);
-    note->setPositionAlignment(Qt::AlignLeft | Qt::AlignTop);
+    note->position->setCoords(content.reliableUntil, 1.0);
+    note->setPositionAlignment(Qt::AlignRight | Qt::AlignBottom);
+    note->setTextAlignment(Qt::AlignRight);
     note->setPadding(QMargins(4, 4, 4, 4));
     note->setColor(QColor(0x66, 0x66, 0x66));
-    note->setText(QStringLiteral("0.8T: ここから先は誤差が大きく，\n縦軸の目盛に含めません"));
+    note->setText(QStringLiteral("0.8T: ここから先は誤差が大きく，→\n縦軸の目盛に含めません"));
 }
 
 bool ScrnPlot::Draw(const PlotContent& content, const DrawControl& control) {
