@@ -6,30 +6,7 @@
 file(REMOVE_RECURSE "${WORK}")
 file(MAKE_DIRECTORY "${WORK}")
 
-function(run_cli expected_status)
-  execute_process(COMMAND "${CLI}" ${ARGN}
-    WORKING_DIRECTORY "${WORK}"
-    RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
-  if(NOT status EQUAL expected_status)
-    message(FATAL_ERROR "${ARGN}: exit ${status}, expected ${expected_status}\n${out}\n${err}")
-  endif()
-  set(out "${out}" PARENT_SCOPE)
-  set(err "${err}" PARENT_SCOPE)
-endfunction()
-
-function(expect_contains text part what)
-  string(FIND "${text}" "${part}" at)
-  if(at EQUAL -1)
-    message(FATAL_ERROR "${what} lacks \"${part}\":\n${text}")
-  endif()
-endfunction()
-
-function(expect_lacks text part what)
-  string(FIND "${text}" "${part}" at)
-  if(NOT at EQUAL -1)
-    message(FATAL_ERROR "${what} has \"${part}\":\n${text}")
-  endif()
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/cli_checks.cmake)
 
 # The accurate inversion on standard output: t = n*T/N for n = 1..N-1.
 run_cli(0 invert "${EXAMPLES}/first-order.Prg" --method dehoog)

@@ -14,26 +14,10 @@ foreach(k RANGE 127)
 endforeach()
 file(WRITE "${WORK}/flat.Ldt" "${input}")
 
-function(run_read expected_status)
-  execute_process(COMMAND "${CLI}" read ${ARGN}
-    WORKING_DIRECTORY "${WORK}"
-    RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
-  if(NOT status EQUAL expected_status)
-    message(FATAL_ERROR "read ${ARGN}: exit ${status}, expected ${expected_status}\n${err}")
-  endif()
-  set(out "${out}" PARENT_SCOPE)
-  set(err "${err}" PARENT_SCOPE)
-endfunction()
-
-function(expect_contains text part what)
-  string(FIND "${text}" "${part}" at)
-  if(at EQUAL -1)
-    message(FATAL_ERROR "${what} lacks '${part}':\n${text}")
-  endif()
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/cli_checks.cmake)
 
 # Success: data file, CSV and the status texts in order.
-run_read(0 flat.Ldt -o result.Ldt --csv result.csv)
+run_cli(0 read flat.Ldt -o result.Ldt --csv result.csv)
 file(STRINGS "${WORK}/result.Ldt" lines)
 list(LENGTH lines count)
 if(NOT count EQUAL 131)
@@ -55,18 +39,18 @@ endif()
 expect_contains("${err}" "データ読込み成功\n逆ラプラス変換中\n逆ＦＦＴ\n逆変換終了\nデータ書込み開始\nデータ書込み成功" "stderr")
 
 # Without -o the result text goes to standard output.
-run_read(0 flat.Ldt)
+run_cli(0 read flat.Ldt)
 expect_contains("${out}" "    128    ,  5.000E+00 ,   5.0\n" "stdout")
 
 # Failures of the read: exit 1 with the failure status and a reason.
-run_read(1 flat.Ldt --column 4)
+run_cli(1 read flat.Ldt --column 4)
 expect_contains("${err}" "データ読込み失敗" "stderr")
 expect_contains("${err}" "first column 4" "stderr")
-run_read(1 missing.Ldt)
+run_cli(1 read missing.Ldt)
 expect_contains("${err}" "データ読込み失敗" "stderr")
-run_read(1 flat.Ldt --param-line 1)
+run_cli(1 read flat.Ldt --param-line 1)
 
 # Usage errors: exit 2.
-run_read(2 flat.Ldt --column 0)
-run_read(2 flat.Ldt --data-line x)
-run_read(2)
+run_cli(2 read flat.Ldt --column 0)
+run_cli(2 read flat.Ldt --data-line x)
+run_cli(2 read)
