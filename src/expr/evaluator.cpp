@@ -209,7 +209,7 @@ bool Evaluator::EvalNamed(const PrimaryScan& scan, Complex& value) {
     }
     if (!scan.isName) return false;
     const NameWithSubscripts& target = scan.name;
-    if (scope_.ReadVariable(*this, target.name, target.subscripts, value)) return true;
+    if (scope_.ReadVariable(*this, target.name, target.subscripts, scan.place, value)) return true;
     if (target.subscripts.empty()) Fail("「" + std::string(target.name) + "」は定義されていません");
     return false;
 }

@@ -18,10 +18,22 @@ constexpr std::string_view kStopped = "中断しました";
 
 }  // namespace
 
-ClsCode::ClsCode(Interpreter& session) : session_(session) {}
+ClsCode::ClsCode(Interpreter& session) : session_(session) {
+    NamesChanged();
+}
+
+ClsCode::~ClsCode() {
+    NamesChanged();  // a later page may take this one's address
+}
+
+void ClsCode::SetPageIndex(std::int16_t index) {
+    pageIndex_ = index;
+    NamesChanged();
+}
 
 void ClsCode::SetPageName(std::string name) {
     pageName_ = std::move(name);
+    NamesChanged();
     if (SameWord(pageName_, "Imidate")) {
         pageIndex_ = -1;
         session_.RegisterGlobalPage(*this);
