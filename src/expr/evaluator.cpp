@@ -78,6 +78,11 @@ bool Evaluator::EvalSum(std::string_view& text, Complex& value) {
     return true;
 }
 
+bool Evaluator::EvalSum(const SumScan& scan, Complex& value) {
+    const ScanCache::Evaluating evaluating(ScanCache::Instance());
+    return EvalScannedSum(scan, value);
+}
+
 bool Evaluator::EvalTerm(std::string_view& text, Complex& value) {
     const ScanCache::Evaluating evaluating(ScanCache::Instance());
     if (!EvalScannedTerm(SumScan::OfTerm(text), 0, value)) return false;

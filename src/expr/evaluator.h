@@ -26,6 +26,8 @@ class Evaluator {
     bool EvalTerm(std::string_view& text, Complex& value);
     bool EvalFactor(std::string_view& text, Complex& value);
     bool EvalPrimary(std::string_view& text, Complex& value);
+    // A whole text by the scan its caller keeps for it (a KeptScan).
+    bool EvalSum(const SumScan& scan, Complex& value);
 
     // A condition of dotted operators and their synonyms; truth in `truth`.
     bool EvalCondition(std::string_view text, bool& truth);

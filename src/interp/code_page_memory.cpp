@@ -218,15 +218,17 @@ bool ClsCode::ReadVariable(Evaluator& evaluator, std::string_view name,
     if (found.kind.empty()) return false;
     // A literal, expression or single element passed as argument is read as
     // it is, without subscripts.
-    CallArgument* slot = nullptr;
-    const MemoryRec* rec = Referent(found, &slot);
-    if (found.kind == "E" && (rec == nullptr || slot->Flat > rec->Ln)) return false;
+    if (found.kind == "E") {
+        CallArgument* slot = nullptr;
+        const MemoryRec* rec = Referent(found, &slot);
+        if (rec == nullptr || slot->Flat > rec->Ln) return false;
+    }
     if (found.kind == "I" || found.kind == "E") {
         value = found.value;
         return true;
     }
     std::int32_t flat = 0;
-    rec = Element(evaluator, found, subscripts, flat);
+    const MemoryRec* rec = Element(evaluator, found, subscripts, flat);
     if (rec == nullptr) return false;
     value = rec->Values[static_cast<std::size_t>(flat)];
     return true;
