@@ -123,6 +123,7 @@ class ClsCode : public NameScope {
     // when the user has asked to stop.
     void CheckStop();
     Found ParameterFound(std::int16_t s);
+    bool IsCurrent(const Place& place) const;  // filled in by this page, names unchanged
     // AzIsVariableSearch's answer by way of `place`; for a variable of
     // memory only kind, page and index are filled in.
     Found Locate(std::string_view name, Place& place);

@@ -149,8 +149,12 @@ ClsCode::Found ClsCode::ParameterFound(std::int16_t s) {
     return found;
 }
 
+bool ClsCode::IsCurrent(const Place& place) const {
+    return place.scope == this && place.generation == namesGeneration_;
+}
+
 ClsCode::Found ClsCode::Locate(std::string_view name, Place& place) {
-    if (place.scope != this || place.generation != namesGeneration_) {
+    if (!IsCurrent(place)) {
         const Found found = AzIsVariableSearch(name);
         place = {this, namesGeneration_, found.page, found.index, found.slot, found.kind};
         return found;
@@ -214,6 +218,14 @@ MemoryRec* ClsCode::Element(Evaluator& evaluator, const Found& found,
 bool ClsCode::ReadVariable(Evaluator& evaluator, std::string_view name,
                            std::span<const std::string_view> subscripts, Place& place,
                            Complex& value) {
+    if (subscripts.empty() && place.slot < 0 && IsCurrent(place)) {
+        // A plain name found before in memory (or not at all): the record's
+        // first element, as Element reaches it.
+        const auto* page = static_cast<const ClsCode*>(place.owner);
+        if (page == nullptr || place.index < 0 || place.index >= page->NumofMemory()) return false;
+        value = page->memory_[static_cast<std::size_t>(place.index)].Values[0];
+        return true;
+    }
     const Found found = Locate(name, place);
     if (found.kind.empty()) return false;
     // A literal, expression or single element passed as argument is read as
