@@ -60,7 +60,10 @@ class Evaluator {
     class MemoScope;
 
     bool Fail(std::string reason);
-    // The same levels on a text's scan (expression_scan.h).
+    // The same levels on a text's scan (expression_scan.h). They build the
+    // value in `value` as they go (operands are passed through memory, and
+    // a copy of a value just written stalls the processor), so `value` is
+    // left in any state when they fail.
     bool EvalScannedSum(const SumScan& scan, Complex& value);
     bool EvalScannedTerm(const SumScan& scan, std::size_t term, Complex& value);
     bool EvalScannedFactor(const SumScan& scan, std::size_t factor, Complex& value);
