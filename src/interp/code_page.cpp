@@ -48,9 +48,6 @@ void ClsCode::SetAnalized(bool analized) {
         session_.Page(p).analized_ = false;
 }
 
-std::int16_t ClsCode::NumofMemory() const {
-    return static_cast<std::int16_t>(memory_.size());
-}
 std::int16_t ClsCode::NumofArg() const {
     return static_cast<std::int16_t>(arguments_.size());
 }

@@ -37,7 +37,7 @@ class ClsCode : public NameScope {
     void SetAnalized(bool analized);  // false on the immediate page clears every page
     std::int16_t PageIndex() const { return pageIndex_; }
     void SetPageIndex(std::int16_t index);
-    std::int16_t NumofMemory() const;
+    std::int16_t NumofMemory() const { return static_cast<std::int16_t>(memory_.size()); }
     std::int16_t NumofArg() const;
 
     // Statements: Code(i) reads line i (empty text past the end); SetCode

@@ -340,11 +340,11 @@ bool ClsCode::Assign(const StatementCode& code, Complex& assigned) {
         }
         return true;
     }
-    std::int32_t flat = 0;
+    std::int32_t flat = 0;  // a whole variable's first element
     if (slot != nullptr && slot->Flat >= 0) {
         flat = slot->Flat;
         if (flat > rec->Ln) return false;  // the array shrank while bound
-    } else {
+    } else if (code.SubscriptCount > 0) {
         const std::string_view subscripts[] = {code.Subscript1, code.Subscript2};
         const std::span<const std::string_view> used(subscripts,
                                                      static_cast<std::size_t>(code.SubscriptCount));
