@@ -68,33 +68,50 @@ bool Evaluator::Fail(std::string reason) {
     return false;
 }
 
-// The public levels take their text's kept scan, or scan it afresh.
+// The public levels take their text's kept scan, or scan it afresh, and
+// give their value only on success.
 bool Evaluator::EvalSum(std::string_view& text, Complex& value) {
     ScanCache& cache = ScanCache::Instance();
     const ScanCache::Evaluating evaluating(cache);
     std::optional<SumScan> fresh;
-    if (!EvalScannedSum(cache.Sum(text, fresh), value)) return false;
+    Complex result;
+    if (!EvalScannedSum(cache.Sum(text, fresh), result)) return false;
+    value = result;
     text = {};
+    return true;
+}
+
+bool Evaluator::EvalSum(const SumScan& scan, Complex& value) {
+    const ScanCache::Evaluating evaluating(ScanCache::Instance());
+    Complex result;
+    if (!EvalScannedSum(scan, result)) return false;
+    value = result;
     return true;
 }
 
 bool Evaluator::EvalTerm(std::string_view& text, Complex& value) {
     const ScanCache::Evaluating evaluating(ScanCache::Instance());
-    if (!EvalScannedTerm(SumScan::OfTerm(text), 0, value)) return false;
+    Complex result;
+    if (!EvalScannedTerm(SumScan::OfTerm(text), 0, result)) return false;
+    value = result;
     text = {};
     return true;
 }
 
 bool Evaluator::EvalFactor(std::string_view& text, Complex& value) {
     const ScanCache::Evaluating evaluating(ScanCache::Instance());
-    if (!EvalScannedFactor(SumScan::OfFactor(text), 0, value)) return false;
+    Complex result;
+    if (!EvalScannedFactor(SumScan::OfFactor(text), 0, result)) return false;
+    value = result;
     text = {};
     return true;
 }
 
 bool Evaluator::EvalPrimary(std::string_view& text, Complex& value) {
     const ScanCache::Evaluating evaluating(ScanCache::Instance());
-    if (!EvalScannedPrimary(PrimaryScan(text), value)) return false;
+    Complex result;
+    if (!EvalScannedPrimary(PrimaryScan(text), result)) return false;
+    value = result;
     text = {};
     return true;
 }
@@ -106,14 +123,13 @@ bool Evaluator::EvalScannedSum(const SumScan& scan, Complex& value) {
         return Fail(std::string(kTooDeep));
     }
     if (scan.sum.empty) return false;
-    Complex acc{};
+    value = {};
     for (std::size_t t = 0; t < scan.sum.count; ++t) {
         Complex v;
         if (!EvalScannedTerm(scan, t, v)) return false;
-        ApplyOperator(scan.terms[t].op, acc, v);
+        ApplyOperator(scan.terms[t].op, value, v);
     }
     if (scan.sum.unbalancedAfter) return Fail(std::string(kBrackets));
-    value = acc;
     return true;
 }
 
@@ -121,18 +137,12 @@ bool Evaluator::EvalScannedSum(const SumScan& scan, Complex& value) {
 bool Evaluator::EvalScannedTerm(const SumScan& scan, std::size_t term, Complex& value) {
     const SumScan::Operand& t = scan.terms[term];
     if (t.empty) return false;
-    Complex acc;
     for (std::size_t f = t.first; f < t.first + t.count; ++f) {
         Complex v;
-        if (!EvalScannedFactor(scan, f, v)) return false;
-        if (f == t.first) {
-            acc = v;
-        } else {
-            ApplyOperator(scan.factors[f].op, acc, v);
-        }
+        if (!EvalScannedFactor(scan, f, f == t.first ? value : v)) return false;
+        if (f != t.first) ApplyOperator(scan.factors[f].op, value, v);
     }
     if (t.unbalancedAfter) return Fail(std::string(kBrackets));
-    value = acc;
     return true;
 }
 
@@ -140,18 +150,12 @@ bool Evaluator::EvalScannedTerm(const SumScan& scan, std::size_t term, Complex& 
 bool Evaluator::EvalScannedFactor(const SumScan& scan, std::size_t factor, Complex& value) {
     const SumScan::Operand& f = scan.factors[factor];
     if (f.empty) return false;
-    Complex acc;
     for (std::size_t p = f.first; p < f.first + f.count; ++p) {
         Complex v;
-        if (!EvalScannedPrimary(scan.primaries[p], v)) return false;
-        if (p == f.first) {
-            acc = v;
-        } else {
-            ApplyOperator(scan.primaryOps[p], acc, v);
-        }
+        if (!EvalScannedPrimary(scan.primaries[p], p == f.first ? value : v)) return false;
+        if (p != f.first) ApplyOperator(scan.primaryOps[p], value, v);
     }
     if (f.unbalancedAfter) return Fail(std::string(kBrackets));
-    value = acc;
     return true;
 }
 
@@ -209,7 +213,7 @@ bool Evaluator::EvalNamed(const PrimaryScan& scan, Complex& value) {
     }
     if (!scan.isName) return false;
     const NameWithSubscripts& target = scan.name;
-    if (scope_.ReadVariable(*this, target.name, target.subscripts, value)) return true;
+    if (scope_.ReadVariable(*this, target.name, target.subscripts, scan.place, value)) return true;
     if (target.subscripts.empty()) Fail("「" + std::string(target.name) + "」は定義されていません");
     return false;
 }

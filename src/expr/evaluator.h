@@ -26,6 +26,8 @@ class Evaluator {
     bool EvalTerm(std::string_view& text, Complex& value);
     bool EvalFactor(std::string_view& text, Complex& value);
     bool EvalPrimary(std::string_view& text, Complex& value);
+    // A whole text by the scan its caller keeps for it (a KeptScan).
+    bool EvalSum(const SumScan& scan, Complex& value);
 
     // A condition of dotted operators and their synonyms; truth in `truth`.
     bool EvalCondition(std::string_view text, bool& truth);
@@ -58,7 +60,10 @@ class Evaluator {
     class MemoScope;
 
     bool Fail(std::string reason);
-    // The same levels on a text's scan (expression_scan.h).
+    // The same levels on a text's scan (expression_scan.h). They build the
+    // value in `value` as they go (operands are passed through memory, and
+    // a copy of a value just written stalls the processor), so `value` is
+    // left in any state when they fail.
     bool EvalScannedSum(const SumScan& scan, Complex& value);
     bool EvalScannedTerm(const SumScan& scan, std::size_t term, Complex& value);
     bool EvalScannedFactor(const SumScan& scan, std::size_t factor, Complex& value);

@@ -3,7 +3,8 @@
 // can be (a built-in call, a number, a name with subscripts, a bracket). All
 // of it follows from the text alone (the vocabulary never changes), so one
 // scan serves every later evaluation of the same text; values, names and
-// calls are still looked up at every evaluation, in the same order.
+// calls are still looked up at every evaluation, in the same order (a scope
+// may keep where it found a name, see NameScope::Place).
 #pragma once
 
 #include <memory>
@@ -11,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "expr/name_scope.h"
 #include "expr/text_scan.h"
 #include "values/complex.h"
 
@@ -51,6 +53,7 @@ struct PrimaryScan {
     bool mayBeConstant = false;
     bool isName = false;  // Name, Name(i) or Name(i,j)
     NameWithSubscripts name;
+    mutable NameScope::Place place;        // where the scope last found the name
     std::optional<LazySumScan> bracketed;  // ( sum )
 };
 

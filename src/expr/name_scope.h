@@ -2,6 +2,7 @@
 // calls of user functions and matrix functions on named arrays.
 #pragma once
 
+#include <cstdint>
 #include <span>
 #include <string_view>
 
@@ -15,12 +16,26 @@ class NameScope {
   public:
     virtual ~NameScope() = default;
 
+    // Where a name was found the last time a primary read it, kept with the
+    // primary's scan: the scope that filled it in may go there again without
+    // searching, for as long as its generation is current. Only that scope
+    // reads the fields.
+    struct Place {
+        const NameScope* scope = nullptr;
+        std::uint64_t generation = 0;
+        void* owner = nullptr;
+        std::int16_t index = -1;
+        std::int16_t slot = -1;
+        std::string_view kind;
+    };
+
     // The value of a variable (no subscripts) or an array element (one or
     // two subscript texts, which the scope evaluates with `evaluator`; an
     // empty subscript text counts as "0"). False when the name is unknown or
-    // a subscript fails.
+    // a subscript fails. `place` is this primary's kept Place.
     virtual bool ReadVariable(Evaluator& evaluator, std::string_view name,
-                              std::span<const std::string_view> subscripts, Complex& value) = 0;
+                              std::span<const std::string_view> subscripts, Place& place,
+                              Complex& value) = 0;
 
     // Runs the user function called by `call` (Name(arguments)) and gives its
     // value. False when no function of that name exists or the call failed.

@@ -20,7 +20,8 @@ void PlainScope::SetArray(const std::string& name, ComplexArray array) {
 }
 
 bool PlainScope::ReadVariable(Evaluator& evaluator, std::string_view name,
-                              std::span<const std::string_view> subscripts, Complex& value) {
+                              std::span<const std::string_view> subscripts, Place& /*place*/,
+                              Complex& value) {
     const auto found = arrays_.find(name);
     if (found == arrays_.end() || subscripts.size() > 2) return false;
     const ComplexArray& array = found->second;

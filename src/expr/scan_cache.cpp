@@ -35,9 +35,9 @@ template <typename Scan>
 const Scan& ScanCache::Find(Store<Scan>& store, std::string_view text, std::optional<Scan>& fresh) {
     if (const auto it = store.find(text); it != store.end()) return it->second->scan;
     if (!SeenBefore(text)) return fresh.emplace(text);
-    auto kept = std::make_unique<Kept<Scan>>(text);
+    auto kept = std::make_unique<KeptScan<Scan>>(text);
     const Scan& scan = kept->scan;
-    keptBytes_ += sizeof(Kept<Scan>) + 16 * text.size();  // with the operand scans to come
+    keptBytes_ += sizeof(KeptScan<Scan>) + 16 * text.size();  // with the operand scans to come
     store.emplace(kept->text, std::move(kept));
     return scan;
 }

@@ -19,6 +19,16 @@
 
 namespace lapdesk {
 
+// A scan together with the text it points into.
+template <typename Scan>
+struct KeptScan {
+    explicit KeptScan(std::string_view t) : text(t), scan(std::string_view(text)) {}
+    KeptScan(const KeptScan&) = delete;
+    KeptScan& operator=(const KeptScan&) = delete;
+    std::string text;
+    Scan scan;
+};
+
 class ScanCache {
   public:
     // The process's one store (the interpreter runs on one thread).
@@ -42,15 +52,8 @@ class ScanCache {
     const ConditionScan& Condition(std::string_view text, std::optional<ConditionScan>& fresh);
 
   private:
-    // A kept scan with the text it points into.
     template <typename Scan>
-    struct Kept {
-        explicit Kept(std::string_view t) : text(t), scan(std::string_view(text)) {}
-        std::string text;
-        Scan scan;
-    };
-    template <typename Scan>
-    using Store = std::unordered_map<std::string_view, std::unique_ptr<Kept<Scan>>>;
+    using Store = std::unordered_map<std::string_view, std::unique_ptr<KeptScan<Scan>>>;
 
     // True when the text has been seen before (and is to be kept now).
     bool SeenBefore(std::string_view text);

@@ -18,10 +18,22 @@ constexpr std::string_view kStopped = "中断しました";
 
 }  // namespace
 
-ClsCode::ClsCode(Interpreter& session) : session_(session) {}
+ClsCode::ClsCode(Interpreter& session) : session_(session) {
+    NamesChanged();
+}
+
+ClsCode::~ClsCode() {
+    NamesChanged();  // a later page may take this one's address
+}
+
+void ClsCode::SetPageIndex(std::int16_t index) {
+    pageIndex_ = index;
+    NamesChanged();
+}
 
 void ClsCode::SetPageName(std::string name) {
     pageName_ = std::move(name);
+    NamesChanged();
     if (SameWord(pageName_, "Imidate")) {
         pageIndex_ = -1;
         session_.RegisterGlobalPage(*this);
@@ -36,9 +48,6 @@ void ClsCode::SetAnalized(bool analized) {
         session_.Page(p).analized_ = false;
 }
 
-std::int16_t ClsCode::NumofMemory() const {
-    return static_cast<std::int16_t>(memory_.size());
-}
 std::int16_t ClsCode::NumofArg() const {
     return static_cast<std::int16_t>(arguments_.size());
 }
@@ -114,7 +123,8 @@ void ClsCode::ACalcuWithMemoryStore(std::string_view expression, std::string_vie
             index = AppendVariable(parsed.name, 0, 0, 0);
         }
         StatementCode code{"M", index, static_cast<std::int16_t>(parsed.subscripts.size()),
-                           "",  "",    std::string(Trim(expression))};
+                           "",  "",    std::string(Trim(expression)),
+                           {}};
         if (!parsed.subscripts.empty()) code.Subscript1 = parsed.subscripts[0];
         if (parsed.subscripts.size() > 1) code.Subscript2 = parsed.subscripts[1];
         Complex assigned;

@@ -22,14 +22,22 @@ class Evaluator;
 class ClsCode : public NameScope {
   public:
     explicit ClsCode(Interpreter& session);
+    ~ClsCode() override;
+    ClsCode(const ClsCode&) = delete;
+    ClsCode& operator=(const ClsCode&) = delete;
+
+    // To be called whenever a name may find another variable than before:
+    // variables declared or erased, parameter lists, pages or the case
+    // option changed. Places kept by earlier reads are then searched again.
+    static void NamesChanged() { ++namesGeneration_; }
 
     const std::string& PageName() const { return pageName_; }
     void SetPageName(std::string name);  // "Imidate" (any case) makes it the global page
     bool Analized() const { return analized_; }
     void SetAnalized(bool analized);  // false on the immediate page clears every page
     std::int16_t PageIndex() const { return pageIndex_; }
-    void SetPageIndex(std::int16_t index) { pageIndex_ = index; }
-    std::int16_t NumofMemory() const;
+    void SetPageIndex(std::int16_t index);
+    std::int16_t NumofMemory() const { return static_cast<std::int16_t>(memory_.size()); }
     std::int16_t NumofArg() const;
 
     // Statements: Code(i) reads line i (empty text past the end); SetCode
@@ -61,7 +69,7 @@ class ClsCode : public NameScope {
     // globals ("G"); the immediate page falls back on "Main" ("Main").
     // Empty kind when unknown.
     struct Found {
-        std::string kind;
+        std::string_view kind;  // one of the literals above
         ClsCode* page = nullptr;
         std::int16_t index = -1;  // memory index in `page`
         std::int16_t slot = -1;   // parameter slot for "I", "E" and "A"
@@ -94,7 +102,8 @@ class ClsCode : public NameScope {
 
     // NameScope: how expressions on this page read names and call functions.
     bool ReadVariable(Evaluator& evaluator, std::string_view name,
-                      std::span<const std::string_view> subscripts, Complex& value) override;
+                      std::span<const std::string_view> subscripts, Place& place,
+                      Complex& value) override;
     bool CallUserFunction(Evaluator& evaluator, std::string_view call, Complex& value) override;
     bool CallMatrixFunction(std::size_t index, std::span<const std::string_view> arguments,
                             Complex& value) override;
@@ -113,6 +122,11 @@ class ClsCode : public NameScope {
     // Lets window events run inside a program run and raises StopRequest
     // when the user has asked to stop.
     void CheckStop();
+    Found ParameterFound(std::int16_t s);
+    bool IsCurrent(const Place& place) const;  // filled in by this page, names unchanged
+    // AzIsVariableSearch's answer by way of `place`; for a variable of
+    // memory only kind, page and index are filled in.
+    Found Locate(std::string_view name, Place& place);
     // The variable a lookup refers to, and the parameter slot it went through.
     MemoryRec* Referent(const Found& found, CallArgument** slot);
     bool EvalSubscript(Evaluator& evaluator, std::string_view text, std::int16_t& index);
@@ -177,6 +191,8 @@ class ClsCode : public NameScope {
     std::string errorText_;
     Complex valueArea_;
     std::optional<ComplexArray> arrayResult_;  // of the last matrix function
+
+    static inline std::uint64_t namesGeneration_ = 0;
 };
 
 }  // namespace lapdesk

@@ -191,7 +191,7 @@ bool ClsCode::AnalyseAssignment(std::string_view text, bool& isAssignment) {
     isAssignment = equals != std::string_view::npos;
     if (!isAssignment) return true;
     const std::string_view target = Trim(text.substr(0, equals));
-    StatementCode code{"R", 0, 0, "", "", std::string(Trim(text.substr(equals + 1)))};
+    StatementCode code{"R", 0, 0, "", "", std::string(Trim(text.substr(equals + 1))), {}};
     if (!SameName(target, pageName_, session_.caseSensitive())) {
         NameWithSubscripts parsed;
         if (!SplitNameAndSubscripts(target, parsed) || ReportReserved(parsed.name)) {
@@ -215,6 +215,7 @@ bool ClsCode::AnalyseAssignment(std::string_view text, bool& isAssignment) {
         if (parsed.subscripts.size() > 1) code.Subscript2 = parsed.subscripts[1];
     }
     Add16(Count(statements_.size()), 1);
+    code.ExpressionScan = std::make_shared<const KeptScan<SumScan>>(code.Expression);
     statements_.push_back(std::move(code));
     return true;
 }

@@ -39,6 +39,7 @@ std::int16_t ClsCode::AppendVariable(std::string_view name, std::int16_t typ, st
     Add16(index, 1);
     memory_.push_back(MemoryRec{std::string(name), typ, ni, nj, ln,
                                 std::vector<Complex>(static_cast<std::size_t>(ln) + 1)});
+    NamesChanged();
     SetAnalized(false);
     return index;
 }
@@ -52,12 +53,14 @@ void ClsCode::AEraseMemorys() {
     ifs_.clear();
     selects_.clear();
     statements_.clear();
+    NamesChanged();
     SetAnalized(false);
 }
 
 void ClsCode::AEraseMemory(std::int16_t i) {
     Memory(i);  // bounds check
     memory_.erase(memory_.begin() + i);
+    NamesChanged();
     SetAnalized(false);
 }
 
@@ -103,23 +106,8 @@ ClsCode::Found ClsCode::AzIsVariableSearch(std::string_view name) {
     }
     if (pageIndex_ != -1) {
         for (std::int16_t s = 0; s < NumofArg(); ++s) {
-            CallArgument& slot = arguments_[static_cast<std::size_t>(s)];
-            if (!SameName(slot.Name, name, cs)) continue;
-            Found found{slot.IsValue() ? "I" : (slot.Flat >= 0 ? "E" : "A"),
-                        slot.Page,
-                        slot.Index,
-                        s,
-                        slot.SubscriptCount,
-                        slot.NI,
-                        slot.NJ,
-                        slot.Value};
-            CallArgument* through = nullptr;
-            const MemoryRec* rec = Referent(found, &through);
-            // The element may be gone: its array can shrink while bound.
-            if (rec != nullptr && slot.Flat <= rec->Ln) {
-                found.value = rec->Values[static_cast<std::size_t>(std::max(slot.Flat, 0))];
-            }
-            return found;
+            if (SameName(arguments_[static_cast<std::size_t>(s)].Name, name, cs))
+                return ParameterFound(s);
         }
         ClsCode& global = session_.ImmediatePage();
         for (std::int16_t k = 0; k < global.NumofMemory(); ++k) {
@@ -139,6 +127,44 @@ ClsCode::Found ClsCode::AzIsVariableSearch(std::string_view name) {
         return found;
     }
     return {};
+}
+
+// A parameter's kind and value follow from what the current call bound to it.
+ClsCode::Found ClsCode::ParameterFound(std::int16_t s) {
+    const CallArgument& slot = arguments_[static_cast<std::size_t>(s)];
+    Found found{slot.IsValue() ? "I" : (slot.Flat >= 0 ? "E" : "A"),
+                slot.Page,
+                slot.Index,
+                s,
+                slot.SubscriptCount,
+                slot.NI,
+                slot.NJ,
+                slot.Value};
+    CallArgument* through = nullptr;
+    const MemoryRec* rec = Referent(found, &through);
+    // The element may be gone: its array can shrink while bound.
+    if (rec != nullptr && slot.Flat <= rec->Ln) {
+        found.value = rec->Values[static_cast<std::size_t>(std::max(slot.Flat, 0))];
+    }
+    return found;
+}
+
+bool ClsCode::IsCurrent(const Place& place) const {
+    return place.scope == this && place.generation == namesGeneration_;
+}
+
+ClsCode::Found ClsCode::Locate(std::string_view name, Place& place) {
+    if (!IsCurrent(place)) {
+        const Found found = AzIsVariableSearch(name);
+        place = {this, namesGeneration_, found.page, found.index, found.slot, found.kind};
+        return found;
+    }
+    if (place.slot >= 0) return ParameterFound(place.slot);
+    Found found;
+    found.kind = place.kind;
+    found.page = static_cast<ClsCode*>(place.owner);
+    found.index = place.index;
+    return found;
 }
 
 MemoryRec* ClsCode::Referent(const Found& found, CallArgument** slot) {
@@ -190,20 +216,31 @@ MemoryRec* ClsCode::Element(Evaluator& evaluator, const Found& found,
 }
 
 bool ClsCode::ReadVariable(Evaluator& evaluator, std::string_view name,
-                           std::span<const std::string_view> subscripts, Complex& value) {
-    const Found found = AzIsVariableSearch(name);
+                           std::span<const std::string_view> subscripts, Place& place,
+                           Complex& value) {
+    if (subscripts.empty() && place.slot < 0 && IsCurrent(place)) {
+        // A plain name found before in memory (or not at all): the record's
+        // first element, as Element reaches it.
+        const auto* page = static_cast<const ClsCode*>(place.owner);
+        if (page == nullptr || place.index < 0 || place.index >= page->NumofMemory()) return false;
+        value = page->memory_[static_cast<std::size_t>(place.index)].Values[0];
+        return true;
+    }
+    const Found found = Locate(name, place);
     if (found.kind.empty()) return false;
     // A literal, expression or single element passed as argument is read as
     // it is, without subscripts.
-    CallArgument* slot = nullptr;
-    const MemoryRec* rec = Referent(found, &slot);
-    if (found.kind == "E" && (rec == nullptr || slot->Flat > rec->Ln)) return false;
+    if (found.kind == "E") {
+        CallArgument* slot = nullptr;
+        const MemoryRec* rec = Referent(found, &slot);
+        if (rec == nullptr || slot->Flat > rec->Ln) return false;
+    }
     if (found.kind == "I" || found.kind == "E") {
         value = found.value;
         return true;
     }
     std::int32_t flat = 0;
-    rec = Element(evaluator, found, subscripts, flat);
+    const MemoryRec* rec = Element(evaluator, found, subscripts, flat);
     if (rec == nullptr) return false;
     value = rec->Values[static_cast<std::size_t>(flat)];
     return true;

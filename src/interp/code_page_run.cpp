@@ -122,12 +122,16 @@ void ClsCode::ShowProgress(std::int16_t line) {
 }
 
 ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
-    const CodeLine current = Line(line);
-    const auto index = static_cast<std::size_t>(current.CodeIndex);
+    // Read before anything runs, so that nothing below depends on the
+    // line's record staying where it is.
+    const CodeLine& stored = Line(line);
+    const std::int16_t kind = stored.Kind;
+    const std::int16_t link = stored.Link;
+    const auto index = static_cast<std::size_t>(stored.CodeIndex);
     errorText_.clear();
     bool ok = true;
     Evaluator evaluator(*this);
-    switch (current.Kind) {
+    switch (kind) {
         case kw::End:
         case kw::ExitFunction:
             return Flow::End;
@@ -158,7 +162,7 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
         case kw::Else:
         case kw::ElseIf: {
             const IfBlock& block = ifs_[index];
-            const Flow flow = RunBranch(line, block.Boundaries, block.Conditions, current.Link);
+            const Flow flow = RunBranch(line, block.Boundaries, block.Conditions, link);
             if (flow == Flow::Fail) ok = false;
             if (flow == Flow::End) return flow;
             break;
@@ -166,22 +170,24 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
         case kw::Case:
         case kw::CaseElse: {
             const SelectBlock& block = selects_[index];
-            const Flow flow = RunBranch(line, block.Boundaries, block.Conditions, current.Link);
+            const Flow flow = RunBranch(line, block.Boundaries, block.Conditions, link);
             if (flow == Flow::Fail) ok = false;
             if (flow == Flow::End) return flow;
             break;
         }
         case kw::Return: {
             // The value starts at the eighth character, after "Return ".
+            const std::string statement = stored.Text;
             std::string_view text =
-                current.Text.size() > 7 ? std::string_view(current.Text).substr(7) : "";
+                statement.size() > 7 ? std::string_view(statement).substr(7) : "";
             text = TrimLeft(text);
             if (evaluator.EvalSum(text, valueArea_)) return Flow::End;
             ok = false;
             break;
         }
         case kw::BareCall: {
-            std::string_view text = current.Text;
+            const std::string statement = stored.Text;
+            std::string_view text = statement;
             ok = evaluator.EvalSum(text, valueArea_);
             break;
         }
@@ -288,7 +294,10 @@ bool ClsCode::Assign(const StatementCode& code, Complex& assigned) {
     arrayResult_.reset();
     errorText_.clear();
     std::string_view expression = code.Expression;
-    if (!evaluator.EvalSum(expression, assigned)) {
+    const bool evaluated = code.ExpressionScan
+                               ? evaluator.EvalSum(code.ExpressionScan->scan, assigned)
+                               : evaluator.EvalSum(expression, assigned);
+    if (!evaluated) {
         // A call inside the expression may have left why its argument
         // failed; that reason is kept, as for a Call statement.
         if (errorText_.empty()) errorText_ = evaluator.failure();
@@ -331,11 +340,11 @@ bool ClsCode::Assign(const StatementCode& code, Complex& assigned) {
         }
         return true;
     }
-    std::int32_t flat = 0;
+    std::int32_t flat = 0;  // a whole variable's first element
     if (slot != nullptr && slot->Flat >= 0) {
         flat = slot->Flat;
         if (flat > rec->Ln) return false;  // the array shrank while bound
-    } else {
+    } else if (code.SubscriptCount > 0) {
         const std::string_view subscripts[] = {code.Subscript1, code.Subscript2};
         const std::span<const std::string_view> used(subscripts,
                                                      static_cast<std::size_t>(code.SubscriptCount));

@@ -32,7 +32,10 @@ class Interpreter {
 
     // Variable names distinguish letter case (on at start).
     bool caseSensitive() const { return caseSensitive_; }
-    void SetCaseSensitive(bool on) { caseSensitive_ = on; }
+    void SetCaseSensitive(bool on) {
+        caseSensitive_ = on;
+        ClsCode::NamesChanged();
+    }
 
     // The immediate page (created on first use) and the program pages.
     ClsCode& ImmediatePage();

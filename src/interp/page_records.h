@@ -3,9 +3,12 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "expr/expression_scan.h"
+#include "expr/scan_cache.h"
 #include "values/complex.h"
 
 namespace lapdesk {
@@ -41,6 +44,9 @@ struct StatementCode {
     std::string Subscript1;
     std::string Subscript2;
     std::string Expression;
+    // Made by analysis, so that every run evaluates the same scan; a
+    // statement made for one immediate line has none.
+    std::shared_ptr<const KeptScan<SumScan>> ExpressionScan;
 };
 
 struct ForBlock {

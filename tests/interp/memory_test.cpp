@@ -2,6 +2,7 @@
 // element addressing, erasing, and where assignments create variables.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -159,6 +160,63 @@ TEST(Erase, AllMemoryOfAPage) {
     EXPECT_EQ(f.NumofMemory(), 0);
     EXPECT_EQ(f.NumofArg(), 0);
     EXPECT_FALSE(f.Analized());
+}
+
+// ---- Reading a name again after what it finds has changed
+
+// The same text is read often enough to be kept with where its name was
+// found; after the change it must find the variable that now answers it.
+TEST(NameReadAgain, FindsWhatNowAnswersIt) {
+    struct Row {
+        const char* what;
+        std::vector<const char*> setup;
+        const char* read;
+        std::function<void(Session&)> change;
+        bool okBefore;
+        double after;
+    };
+    const std::vector<Row> rows = {
+        {"erasing shifts the later variables",
+         {"a = 1", "b = 2"},
+         "b",
+         [](Session& s) { s.Global().AEraseMemory(0); },
+         true,
+         2.0},
+        {"the case switch turned off",
+         {"a = 3"},
+         "A",
+         [](Session& s) { s.interpreter.SetCaseSensitive(false); },
+         false,
+         3.0},
+        {"a global declared over Main's variable",
+         {},
+         "x",
+         [](Session& s) { ASSERT_TRUE(s.Line("Dim x").ok); },
+         true,
+         0.0},
+        {"Main's variables gone with a new program",
+         {},
+         "x",
+         [](Session& s) {
+             ASSERT_TRUE(s.Run({"y = 1", "End"}));
+         },
+         true,
+         -1.0},
+    };
+    for (const Row& row : rows) {
+        Session s;
+        ASSERT_TRUE(s.Run({"x = 5", "End"}));
+        for (const char* line : row.setup)
+            ASSERT_TRUE(s.Line(line).ok) << row.what;
+        for (int k = 0; k < 3; ++k)
+            EXPECT_EQ(s.Line(row.read).ok, row.okBefore) << row.what;
+        row.change(s);
+        const ImmediateResult result = s.Line(row.read);
+        EXPECT_EQ(result.ok, row.after >= 0.0) << row.what;
+        if (result.ok) {
+            EXPECT_EQ(result.value.Re, row.after) << row.what;
+        }
+    }
 }
 
 // ---- Where assignments create variables
