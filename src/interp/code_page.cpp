@@ -110,11 +110,7 @@ void ClsCode::ACalcuWithMemoryStore(std::string_view expression, std::string_vie
     }
     if (ReportReserved(parsed.name)) return;
     try {
-        std::int16_t index = -1;
-        for (std::int16_t k = 0; k < NumofMemory(); ++k) {
-            if (SameName(MemoryName(k), parsed.name, session_.caseSensitive())) index = k;
-            if (index >= 0) break;
-        }
+        std::int16_t index = OwnMemoryIndex(parsed.name);
         if (index < 0) {
             if (!parsed.subscripts.empty()) {
                 errorText_ = "代入先が不正";
@@ -137,6 +133,21 @@ void ClsCode::ACalcuWithMemoryStore(std::string_view expression, std::string_vie
     } catch (const StopRequest&) {
         errorText_ = kStopped;
         ok = false;
+    }
+}
+
+bool ClsCode::StoreOwnValue(std::string_view name, const Complex& value) {
+    if (ReportReserved(name)) return false;
+    try {
+        std::int16_t index = OwnMemoryIndex(name);
+        if (index < 0) index = AppendVariable(name, 0, 0, 0);
+        arrayResult_.reset();
+        errorText_.clear();
+        Memory(index).Values[0] = value;
+        return true;
+    } catch (const RuntimeFault& fault) {
+        errorText_ = fault.description();
+        return false;
     }
 }
 

@@ -88,6 +88,10 @@ class ClsCode : public NameScope {
     void ACalcuWithMemoryStore(std::string_view expression, std::string_view target, double& re,
                                double& im, bool& ok);
     bool AImidateStatement(std::string_view text, double& re, double& im);
+    // name = value on the immediate line for a value already computed: the
+    // variable ACalcuWithMemoryStore finds or makes for a plain name, and the
+    // element it stores into (the first).
+    bool StoreOwnValue(std::string_view name, const Complex& value);
 
     // Analysis, execution and function definition passes.
     bool APc01BotomLine() const;
@@ -118,6 +122,8 @@ class ClsCode : public NameScope {
     std::int16_t AppendVariable(std::string_view name, std::int16_t typ, std::int16_t ni,
                                 std::int16_t nj);
     bool DeclareItem(std::string_view item);
+    // This page's own variable of that name, -1 when there is none.
+    std::int16_t OwnMemoryIndex(std::string_view name) const;
     bool ReportReserved(std::string_view name);
     // Lets window events run inside a program run and raises StopRequest
     // when the user has asked to stop.

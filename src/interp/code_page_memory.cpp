@@ -180,6 +180,13 @@ MemoryRec* ClsCode::Referent(const Found& found, CallArgument** slot) {
     return &found.page->memory_[static_cast<std::size_t>(found.index)];
 }
 
+std::int16_t ClsCode::OwnMemoryIndex(std::string_view name) const {
+    for (std::int16_t k = 0; k < NumofMemory(); ++k) {
+        if (SameName(MemoryName(k), name, session_.caseSensitive())) return k;
+    }
+    return -1;
+}
+
 bool ClsCode::ReportReserved(std::string_view name) {
     if (!IsReservedWord(name)) return false;
     session_.view().ShowHint(std::string(name) + " is Reserved Word");

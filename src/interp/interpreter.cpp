@@ -9,7 +9,6 @@
 #include "expr/vocabulary.h"
 #include "interp/text_helpers.h"
 #include "values/fault.h"
-#include "values/number_text.h"
 
 namespace lapdesk {
 
@@ -128,8 +127,7 @@ bool Interpreter::RunProgramOnce(double& re, double& im, bool eraseGlobals, bool
         view_->SetKai("End of Analize Page Number=" + pageCount);
         return false;
     }
-    Complex value{re, im};
-    view_->SetKai("Result=" + ComplexToText(value, view_->RoundedDisplay()));
+    view_->ShowResult({re, im});
     return true;
 }
 

@@ -8,6 +8,9 @@
 #include <cstdint>
 #include <string>
 
+#include "values/complex.h"
+#include "values/number_text.h"
+
 namespace lapdesk {
 
 class InterpreterView {
@@ -26,7 +29,13 @@ class InterpreterView {
     virtual bool ProgramListVisible() const = 0;
     virtual void SelectProgramListEntry(std::int16_t index) = 0;
 
-    virtual void SetKai(const std::string& text) = 0;    // the answer/status field
+    virtual void SetKai(const std::string& text) = 0;  // the answer/status field
+    // The value a program run ended with, shown in the answer field as
+    // "Result=..."; a view that would overwrite it unseen may skip the text.
+    virtual void ShowResult(const Complex& value) {
+        Complex shown = value;
+        SetKai("Result=" + ComplexToText(shown, RoundedDisplay()));
+    }
     virtual void ShowHint(const std::string& text) = 0;  // "Label5", made visible
     virtual void HideHint() = 0;
     virtual void SetPhaseColour(std::uint32_t bgr) = 0;  // "MessageBox" background, 0xBBGGRR

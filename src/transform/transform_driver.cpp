@@ -74,6 +74,7 @@ double Conditions::DeltaOmega() const {
 
 TransformDriver::TransformDriver() {
     block_.CosTable.resize(kInitialCosTableSize);
+    ReadConditions();
 }
 
 void TransformDriver::SetStatus(std::string_view text) const {
@@ -89,6 +90,7 @@ bool TransformDriver::SetWordNumber(std::string_view text) {
     if (std::find(kWrdList.begin(), kWrdList.end(), text) == kWrdList.end()) return false;
     if (wordNumberLb_ != text) MarkDataInvalid();
     wordNumberLb_ = text;
+    ReadConditions();
     return true;
 }
 
@@ -97,6 +99,7 @@ bool TransformDriver::SetTend(std::string_view text) {
     if (!PositiveNumberText(text, label)) return false;
     if (tendLb_ != label) MarkDataInvalid();
     tendLb_ = label;
+    ReadConditions();
     return true;
 }
 
@@ -105,16 +108,17 @@ bool TransformDriver::SetGanma(std::string_view text) {
     if (!PositiveNumberText(text, label)) return false;
     if (ganmaLb_ != label) MarkDataInvalid();
     ganmaLb_ = label;
+    ReadConditions();
     return true;
 }
 
-Conditions TransformDriver::GetConditions() const {
-    Conditions c;
-    c.N = static_cast<std::int16_t>(std::stoi(wordNumberLb_));
-    c.NPos = static_cast<std::int16_t>(c.N / 2);
-    c.T = LabelNumber(tendLb_);
-    c.Gamma0 = LabelNumber(ganmaLb_);
-    return c;
+// The labels are the parameters; their numbers are read once per change
+// rather than at every sample.
+void TransformDriver::ReadConditions() {
+    conditions_.N = static_cast<std::int16_t>(std::stoi(wordNumberLb_));
+    conditions_.NPos = static_cast<std::int16_t>(conditions_.N / 2);
+    conditions_.T = LabelNumber(tendLb_);
+    conditions_.Gamma0 = LabelNumber(ganmaLb_);
 }
 
 bool TransformDriver::BuildCosTable() {
@@ -242,6 +246,7 @@ void TransformDriver::LoadFileData(std::int16_t n, double t, double gamma0,
     wordNumberLb_ = std::to_string(n);
     tendLb_ = DoubleToText(t);
     ganmaLb_ = DoubleToText(gamma0);
+    ReadConditions();
     std::copy_n(re.begin(), n, store_[kSampleRe].Values.begin());
     std::copy_n(im.begin(), n, store_[kSampleIm].Values.begin());
     resultLb_ = kLabelNon;

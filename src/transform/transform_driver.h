@@ -70,7 +70,7 @@ class TransformDriver {
     const std::string& ResultLb() const { return resultLb_; }
     bool HaningOn() const { return haningOn_; }
 
-    Conditions GetConditions() const;
+    const Conditions& GetConditions() const { return conditions_; }
 
     // Rebuilds the cosine table only when N differs from CosinTableLb;
     // returns whether it did.
@@ -106,11 +106,13 @@ class TransformDriver {
 
   private:
     void MarkDataInvalid();
+    void ReadConditions();
 
     StatusSink status_;
     std::string wordNumberLb_ = "256";
     std::string tendLb_ = "5";
     std::string ganmaLb_ = "5";
+    Conditions conditions_;  // the numbers of the three labels above
     std::string cosinTableLb_ = "0";
     std::string dataSourceLb_{kLabelNon};
     std::string resultLb_{kLabelNon};

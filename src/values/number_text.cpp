@@ -9,6 +9,8 @@ namespace lapdesk {
 
 namespace {
 
+constexpr int kTextDigits = 15;  // significant digits DoubleToText writes
+
 bool IsBlank(char c) {
     return c == ' ' || c == '\t';
 }
@@ -134,8 +136,19 @@ std::string DoubleToText(double x) {
     if (x == 0.0) return "0";
     char buffer[64];
     const auto result =
-        std::to_chars(buffer, buffer + sizeof buffer, x, std::chars_format::general, 15);
+        std::to_chars(buffer, buffer + sizeof buffer, x, std::chars_format::general, kTextDigits);
     return UpperExponent(buffer, result.ptr);
+}
+
+std::optional<double> DoubleThroughText(double x) {
+    if (x == 0.0) return 0.0;
+    char buffer[64];
+    const auto written =
+        std::to_chars(buffer, buffer + sizeof buffer, x, std::chars_format::general, kTextDigits);
+    double value = 0.0;
+    const auto [end, ec] = std::from_chars(buffer, written.ptr, value);
+    if (ec != std::errc() || end != written.ptr) return std::nullopt;
+    return value;
 }
 
 std::string ComplexToText(Complex& z, bool rounded) {

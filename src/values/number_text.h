@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -30,6 +31,10 @@ std::string RoundToDigits(const std::string& text, std::int16_t n);
 // The standard text of a double: at most 15 significant digits, no trailing
 // zeros, scientific form with "E+nn"/"E-nn" when too large or too small.
 std::string DoubleToText(double x);
+
+// The value TextToReal reads from DoubleToText(x), found without making the
+// string; nothing when that text does not read back (it overflows).
+std::optional<double> DoubleThroughText(double x);
 
 // The calculator's text of a value. With rounded, the value is first
 // rounded to 6 significant digits and cleaned of negligible parts, and the

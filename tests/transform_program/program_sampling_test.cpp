@@ -3,11 +3,14 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <cmath>
+#include <cstdint>
 #include <string>
 
 #include "interp/recording_view.h"
 #include "status_log.h"
+#include "values/number_text.h"
 
 namespace lapdesk {
 namespace {
@@ -39,14 +42,55 @@ struct Session {
 
 constexpr const char* kFirstOrder = "Return 1/(p+1)\r\nEnd";
 
-TEST(ProgramSampling, SetsPFromTheSamplePointText) {
-    RecordingView view;
-    Interpreter session(view);
-    ASSERT_TRUE(ASetLapOpValur(session, Complex{1.0, 0.0}));
-    ASSERT_TRUE(ASetLapOpValur(session, Complex{0.5, -2.5}));
-    const ImmediateResult p = session.ImmediateLine("p");
-    ASSERT_TRUE(p.ok);
-    EXPECT_EQ(p.value, (Complex{0.5, -2.5}));  // "p=0.5+-2.5j"
+// p must take exactly what the statement "p=<Re>+<Im>j" gives it, for every
+// kind of number text and whatever p already is in the calculator's memory.
+TEST(ProgramSampling, SetsPAsTheSamplePointStatementDoes) {
+    const Complex points[] = {
+        {1.0, 0.0},
+        {0.5, -2.5},
+        {0.0, 0.0},
+        {-0.0, -0.0},
+        {1.0 / 3, 2 * M_PI},
+        {5.0 / 7e-9, 2 * M_PI * 4095 / 7e-9},
+        {1e-300, 3e-310},
+        {-123456.789, 1e21},
+        {0.1 + 0.2, 123456789012345678.0},
+        {1.7976931348623157e308, 1.0},
+        {1.0, -1.7976931348623157e308},
+    };
+    const char* setups[] = {"", "P=7", "Dim p(3)", "p=2j"};
+    for (const char* setup : setups) {
+        for (const bool caseSensitive : {true, false}) {
+            for (const Complex& s : points) {
+                RecordingView view;
+                Interpreter direct(view);
+                Interpreter statement(view);
+                for (Interpreter* session : {&direct, &statement}) {
+                    session->SetCaseSensitive(caseSensitive);
+                    if (*setup != '\0') {
+                        ASSERT_TRUE(session->ImmediateLine(setup).ok);
+                    }
+                }
+                const std::string text = "p=" + DoubleToText(s.Re) + "+" + DoubleToText(s.Im) + "j";
+                double re = 0.0;
+                double im = 0.0;
+                SCOPED_TRACE(text + " after \"" + setup + "\"");
+                const bool expected = statement.ImmediatePage().AImidateStatement(text, re, im);
+                ASSERT_EQ(ASetLapOpValur(direct, s), expected);
+                for (const char* name : {"p", "P", "p(0)"}) {
+                    const ImmediateResult want = statement.ImmediateLine(name);
+                    const ImmediateResult got = direct.ImmediateLine(name);
+                    ASSERT_EQ(got.ok, want.ok) << name;
+                    EXPECT_EQ(std::bit_cast<std::uint64_t>(got.value.Re),
+                              std::bit_cast<std::uint64_t>(want.value.Re))
+                        << name;
+                    EXPECT_EQ(std::bit_cast<std::uint64_t>(got.value.Im),
+                              std::bit_cast<std::uint64_t>(want.value.Im))
+                        << name;
+                }
+            }
+        }
+    }
 }
 
 TEST(ProgramSampling, RunsTheProgramOncePerPointAndInverts) {

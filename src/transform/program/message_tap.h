@@ -1,8 +1,14 @@
 // An InterpreterView that passes everything on to the view the user sees and
 // keeps the first message of the present sample run, so that a failed data
 // creation can say which fault ended it.
+//
+// A run's "Result=..." reaches the answer field only if nothing overwrites
+// it before the window can next paint (at ProcessEvents) or the data
+// creation ends: each run starts by clearing the field, so only the last
+// sample's result is ever seen, and only that one is written as text.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "interp/interpreter_view.h"
@@ -12,6 +18,9 @@ namespace lapdesk {
 class MessageTap : public InterpreterView {
   public:
     explicit MessageTap(InterpreterView& shown) : shown_(shown) {}
+    ~MessageTap() override { ShowPendingResult(); }
+    MessageTap(const MessageTap&) = delete;
+    MessageTap& operator=(const MessageTap&) = delete;
 
     // The first message since the last Forget, "" when there was none, and
     // the line where a run before it ended abnormally ("Main: 3行目").
@@ -42,7 +51,11 @@ class MessageTap : public InterpreterView {
     void SelectProgramListEntry(std::int16_t index) override {
         shown_.SelectProgramListEntry(index);
     }
-    void SetKai(const std::string& text) override { shown_.SetKai(text); }
+    void SetKai(const std::string& text) override {
+        pendingResult_.reset();
+        shown_.SetKai(text);
+    }
+    void ShowResult(const Complex& value) override { pendingResult_ = value; }
     void ShowHint(const std::string& text) override { shown_.ShowHint(text); }
     void HideHint() override { shown_.HideHint(); }
     void SetPhaseColour(std::uint32_t bgr) override { shown_.SetPhaseColour(bgr); }
@@ -50,12 +63,21 @@ class MessageTap : public InterpreterView {
     void ClearMemoryDisplay() override { shown_.ClearMemoryDisplay(); }
     void CalProcMeter(double value, bool reset) override { shown_.CalProcMeter(value, reset); }
     bool StopRequested() const override { return shown_.StopRequested(); }
-    void ProcessEvents() override { shown_.ProcessEvents(); }
+    void ProcessEvents() override {
+        ShowPendingResult();
+        shown_.ProcessEvents();
+    }
     void ClearStopRequest() override { shown_.ClearStopRequest(); }
     void ShowTransformProgress(bool on) override { shown_.ShowTransformProgress(on); }
 
   private:
+    void ShowPendingResult() {
+        if (pendingResult_) shown_.ShowResult(*pendingResult_);
+        pendingResult_.reset();
+    }
+
     InterpreterView& shown_;
+    std::optional<Complex> pendingResult_;
     std::string first_;
     std::string faultLocation_;
 };

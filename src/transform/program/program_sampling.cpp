@@ -1,5 +1,6 @@
 #include "transform/program/program_sampling.h"
 
+#include <optional>
 #include <string>
 
 #include "transform/program/message_tap.h"
@@ -44,6 +45,20 @@ std::string MessageDetail(const MessageTap& tap) {
     return ": " + text;
 }
 
+// p takes what the statement "p=<Re>+<Im>j" gives it, each part written as
+// DoubleToText writes it. Read back straight from that text, the value is the
+// same without the evaluator; a part the text cannot carry (it overflows
+// when read) goes through the statement and its failure. `re` is the real
+// part read back, found once for the many points that share it.
+bool SetP(Interpreter& session, const Complex& s, std::optional<double> re) {
+    const std::optional<double> im = DoubleThroughText(s.Im);
+    if (re && im) return session.ImmediatePage().StoreOwnValue("p", {*re, *im});
+    const std::string statement = "p=" + DoubleToText(s.Re) + "+" + DoubleToText(s.Im) + "j";
+    double ignoredRe = 0.0;
+    double ignoredIm = 0.0;
+    return session.ImmediatePage().AImidateStatement(statement, ignoredRe, ignoredIm);
+}
+
 Outcome Interrupted(TransformDriver& driver, MessageTap& tap, int k) {
     tap.ClearStopRequest();
     driver.SetStatus("プログラム実行中断");
@@ -56,9 +71,10 @@ Outcome RuntimeError(TransformDriver& driver, std::string reason) {
 }
 
 // Runs the program for one sample point and stores its value.
-Outcome SampleOnce(TransformDriver& driver, Interpreter& session, MessageTap& tap, int k) {
+Outcome SampleOnce(TransformDriver& driver, Interpreter& session, MessageTap& tap, int k,
+                   std::optional<double> gamma) {
     tap.Forget();
-    if (!ASetLapOpValur(session, driver.SamplePoint(k))) {
+    if (!SetP(session, driver.SamplePoint(k), gamma)) {
         return RuntimeError(
             driver, PointText(driver, k) + ": p に標本点を代入できません" + MessageDetail(tap));
     }
@@ -78,10 +94,7 @@ Outcome SampleOnce(TransformDriver& driver, Interpreter& session, MessageTap& ta
 }  // namespace
 
 bool ASetLapOpValur(Interpreter& session, const Complex& s) {
-    const std::string statement = "p=" + DoubleToText(s.Re) + "+" + DoubleToText(s.Im) + "j";
-    double re = 0.0;
-    double im = 0.0;
-    return session.ImmediatePage().AImidateStatement(statement, re, im);
+    return SetP(session, s, DoubleThroughText(s.Re));
 }
 
 bool ASetLapOpValur(Interpreter& session, const TransformDriver& driver) {
@@ -102,11 +115,12 @@ Outcome MakeDataFromProgram(TransformDriver& driver, Interpreter& session) {
     driver.BeginDataCreation();
     tap.ClearStopRequest();
     tap.CalProcMeter(c.NPos, true);
+    const std::optional<double> gamma = DoubleThroughText(driver.SamplePoint(0).Re);
     Outcome made;
     for (int k = 0; k <= c.NPos && made.ok; ++k) {
         tap.CalProcMeter(k, false);
-        made =
-            tap.StopRequested() ? Interrupted(driver, tap, k) : SampleOnce(driver, session, tap, k);
+        made = tap.StopRequested() ? Interrupted(driver, tap, k)
+                                   : SampleOnce(driver, session, tap, k, gamma);
     }
     tap.CalProcMeter(c.NPos + 1, false);
     tap.ProcessEvents();
