@@ -97,6 +97,16 @@ TEST(ProgramSampling, RunsTheProgramOncePerPointAndInverts) {
     Session s(kFirstOrder);
     ASSERT_TRUE(TesmorDataSet(s.driver, s.interpreter));
     EXPECT_EQ(s.view.runs, 65);  // k = 0..64 for N = 128
+    // The answer field ends on the last run's result, as one run at k = 64 leaves it.
+    RecordingView lastView;
+    Interpreter last(lastView);
+    last.SetProgramText(kFirstOrder);
+    ASSERT_TRUE(ASetLapOpValur(last, s.driver.SamplePoint(64)));
+    double re = 0.0;
+    double im = 0.0;
+    ASSERT_TRUE(last.RunProgram(re, im, false, true));
+    EXPECT_EQ(s.view.kai, lastView.kai);
+    EXPECT_TRUE(lastView.kai.starts_with("Result=0.0"));
     EXPECT_EQ(s.driver.DataSourceLb(), "Math");
     EXPECT_EQ(s.driver.ResultLb(), "OK");
     ASSERT_GE(s.log.texts.size(), 2u);
