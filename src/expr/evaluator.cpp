@@ -123,6 +123,7 @@ bool Evaluator::EvalScannedSum(const SumScan& scan, Complex& value) {
         return Fail(std::string(kTooDeep));
     }
     if (scan.sum.empty) return false;
+    if (const FlatSum* flat = scan.flat.Get(scan)) return EvalFlatSum(*flat, value);
     value = {};
     for (std::size_t t = 0; t < scan.sum.count; ++t) {
         Complex v;
@@ -130,6 +131,52 @@ bool Evaluator::EvalScannedSum(const SumScan& scan, Complex& value) {
         ApplyOperator(scan.terms[t].op, value, v);
     }
     if (scan.sum.unbalancedAfter) return Fail(std::string(kBrackets));
+    return true;
+}
+
+// The descent's work on a sum of numbers, plain names and brackets, step by
+// step: the same reads, operators and stop polls in the same order.
+bool Evaluator::EvalFlatSum(const FlatSum& flat, Complex& value) {
+    Complex stack[FlatSum::kMaxStack];
+    std::size_t top = 0;
+    for (const FlatStep& step : flat.steps) {
+        switch (step.kind) {
+            case FlatStep::Kind::Sign:
+                if (step.op == '+') {
+                    // 0 + x as the descent adds it (-0 becomes +0); a stored
+                    // value is finite, so the sum needs no overflow check.
+                    stack[top - 1] = {0.0 + stack[top - 1].Re, 0.0 + stack[top - 1].Im};
+                } else {
+                    Complex zero;
+                    ApplyOperator(step.op, zero, stack[top - 1]);
+                    stack[top - 1] = zero;
+                }
+                break;
+            case FlatStep::Kind::Literal:
+                scope_.PollStop();
+                stack[top++] = step.literal;
+                break;
+            case FlatStep::Kind::Name: {
+                scope_.PollStop();
+                const PrimaryScan& primary = *step.name;
+                const NameWithSubscripts& target = primary.name;
+                if (!scope_.ReadVariable(*this, target.name, target.subscripts, primary.place,
+                                         stack[top])) {
+                    return Fail("「" + std::string(target.name) + "」は定義されていません");
+                }
+                ++top;
+                break;
+            }
+            case FlatStep::Kind::Poll:
+                scope_.PollStop();
+                break;
+            case FlatStep::Kind::Apply:
+                --top;
+                ApplyOperator(step.op, stack[top - 1], stack[top]);
+                break;
+        }
+    }
+    value = stack[0];
     return true;
 }
 

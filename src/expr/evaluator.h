@@ -65,6 +65,7 @@ class Evaluator {
     // a copy of a value just written stalls the processor), so `value` is
     // left in any state when they fail.
     bool EvalScannedSum(const SumScan& scan, Complex& value);
+    bool EvalFlatSum(const FlatSum& flat, Complex& value);
     bool EvalScannedTerm(const SumScan& scan, std::size_t term, Complex& value);
     bool EvalScannedFactor(const SumScan& scan, std::size_t factor, Complex& value);
     bool EvalScannedPrimary(const PrimaryScan& scan, Complex& value);

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "expr/flat_sum.h"
 #include "expr/name_scope.h"
 #include "expr/text_scan.h"
 #include "values/complex.h"
@@ -82,6 +83,7 @@ struct SumScan {
     std::vector<Operand> factors;  // each with its range of primaries
     std::vector<char> primaryOps;  // "^" or 0 before each primary
     std::vector<PrimaryScan> primaries;
+    FlatSlot flat;  // the same sum as steps, once it is evaluated again
 
   private:
     void ScanTerm(char op, std::string_view text);

@@ -73,26 +73,4 @@ Complex CplLog(const Complex& a) {
     return {Checked(std::log(CplAbs(a))), CplArgRadians(a)};
 }
 
-bool ApplyOperator(char op, Complex& acc, const Complex& right) {
-    switch (op) {
-        case '+':
-            acc = CplAdd(acc, right);
-            return true;
-        case '-':
-            acc = CplSub(acc, right);
-            return true;
-        case '*':
-            acc = CplMul(acc, right);
-            return true;
-        case '/':
-            acc = CplDiv(acc, right);
-            return true;
-        case '^':
-            acc = CplPow(acc, right);
-            return true;
-        default:
-            return false;
-    }
-}
-
 }  // namespace lapdesk

@@ -56,7 +56,28 @@ Complex CplExp(const Complex& a);
 Complex CplLog(const Complex& a);  // argument in radians
 
 // Applies one of the language's binary operators "+-*/^": acc = acc op right.
-// Returns false, leaving acc unchanged, for any other character.
-bool ApplyOperator(char op, Complex& acc, const Complex& right);
+// Returns false, leaving acc unchanged, for any other character. Inline: an
+// expression applies one per operand.
+inline bool ApplyOperator(char op, Complex& acc, const Complex& right) {
+    switch (op) {
+        case '+':
+            acc = CplAdd(acc, right);
+            return true;
+        case '-':
+            acc = CplSub(acc, right);
+            return true;
+        case '*':
+            acc = CplMul(acc, right);
+            return true;
+        case '/':
+            acc = CplDiv(acc, right);
+            return true;
+        case '^':
+            acc = CplPow(acc, right);
+            return true;
+        default:
+            return false;
+    }
+}
 
 }  // namespace lapdesk

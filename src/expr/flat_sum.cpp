@@ -1,0 +1,114 @@
+#include "expr/flat_sum.h"
+
+#include <algorithm>
+
+#include "expr/expression_scan.h"
+
+namespace lapdesk {
+
+namespace {
+
+class Flattener {
+  public:
+    bool Sum(const SumScan& scan) {
+        if (scan.sum.empty || scan.sum.unbalancedAfter) return false;
+        for (std::size_t t = 0; t < scan.sum.count; ++t) {
+            if (!Term(scan, scan.terms[t])) return false;
+            if (t == 0) {
+                FlatStep step = Step(FlatStep::Kind::Sign);
+                step.op = scan.terms[t].op;
+                flat_->steps.push_back(step);
+            } else {
+                Apply(scan.terms[t].op);
+            }
+        }
+        return true;
+    }
+
+    bool fits() const { return fits_; }
+    std::unique_ptr<FlatSum> Take() { return std::move(flat_); }
+
+  private:
+    bool Term(const SumScan& scan, const SumScan::Operand& term) {
+        if (term.empty || term.unbalancedAfter) return false;
+        for (std::size_t f = term.first; f < term.first + term.count; ++f) {
+            if (!Factor(scan, scan.factors[f])) return false;
+            if (f != term.first) Apply(scan.factors[f].op);
+        }
+        return true;
+    }
+
+    bool Factor(const SumScan& scan, const SumScan::Operand& factor) {
+        if (factor.empty || factor.unbalancedAfter) return false;
+        for (std::size_t p = factor.first; p < factor.first + factor.count; ++p) {
+            if (!Primary(scan.primaries[p])) return false;
+            if (p != factor.first) Apply(scan.primaryOps[p]);
+        }
+        return true;
+    }
+
+    // The primaries the descent would read without a call or a subscript,
+    // tried in its order: a number, a plain name, a bracket.
+    bool Primary(const PrimaryScan& primary) {
+        if (primary.text.empty() || primary.scalarCall || primary.matrixCall ||
+            primary.mayCallUser) {
+            return false;
+        }
+        if (primary.literal) {
+            FlatStep step = Step(FlatStep::Kind::Literal);
+            step.literal = *primary.literal;
+            Push(step);
+            return true;
+        }
+        if (primary.mayBeConstant) return false;
+        if (primary.isName) {
+            if (!primary.name.subscripts.empty()) return false;
+            FlatStep step = Step(FlatStep::Kind::Name);
+            step.name = &primary;
+            Push(step);
+            return true;
+        }
+        if (!primary.bracketed || ++brackets_ > kMaxBrackets) return false;
+        flat_->steps.push_back(Step(FlatStep::Kind::Poll));
+        return Sum(primary.bracketed->Get());
+    }
+
+    static FlatStep Step(FlatStep::Kind kind) {
+        FlatStep step;
+        step.kind = kind;
+        return step;
+    }
+    void Push(const FlatStep& step) {
+        flat_->steps.push_back(step);
+        depth_ = std::max(depth_, ++stack_);
+        fits_ = fits_ && depth_ <= FlatSum::kMaxStack;
+    }
+    void Apply(char op) {
+        FlatStep step = Step(FlatStep::Kind::Apply);
+        step.op = op;
+        flat_->steps.push_back(step);
+        --stack_;
+    }
+
+    static constexpr int kMaxBrackets = 64;
+    std::unique_ptr<FlatSum> flat_ = std::make_unique<FlatSum>();
+    std::size_t stack_ = 0;
+    std::size_t depth_ = 0;
+    bool fits_ = true;
+    int brackets_ = 0;
+};
+
+}  // namespace
+
+std::unique_ptr<const FlatSum> FlattenSum(const SumScan& scan) {
+    Flattener flattener;
+    if (!flattener.Sum(scan) || !flattener.fits()) return nullptr;
+    return flattener.Take();
+}
+
+const FlatSum* FlatSlot::Get(const SumScan& scan) const {
+    if (evaluations_ < 2 && ++evaluations_ == 2) flat_ = FlattenSum(scan);
+    return flat_.get();
+}
+
+}  // namespace lapdesk
