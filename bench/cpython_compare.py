@@ -4,7 +4,8 @@ python3 (and NumPy where installed):
 
   python3 bench/cpython_compare.py loop     # the 200-step loop for N = 1024
   python3 bench/cpython_compare.py series   # the 2000-term series for N = 1024,
-                                            # then the inverse FFT (whole process)
+                                            # then the inverse FFT (whole process;
+                                            # a plain-Python FFT without NumPy)
 
 The loop prints its own time; time the series as a whole process, beside
 lapdesk-cli invert bench/series-2000.Prg -N 1024 -T 5 -g 5.
@@ -35,17 +36,35 @@ def series_f(p):
     return s
 
 
+def inverse_fft(spectrum):
+    """Radix-2 inverse FFT in plain Python, for machines without NumPy."""
+    n = len(spectrum)
+    if n == 1:
+        return list(spectrum)
+    even = inverse_fft(spectrum[0::2])
+    odd = inverse_fft(spectrum[1::2])
+    out = [0j] * n
+    for k in range(n // 2):
+        t = cmath.exp(2j * math.pi * k / n) * odd[k]
+        out[k] = (even[k] + t) / 2
+        out[k + n // 2] = (even[k] - t) / 2
+    return out
+
+
 def invert(samples, n, t_end=5.0, gamma0=5.0):
-    import numpy
-    spectrum = numpy.zeros(n, dtype=complex)
+    spectrum = [0j] * n
     scale = n / t_end
     for k, value in enumerate(samples):
         w = (math.cos(k * 2 * math.pi / n) + 1) * 0.5
         spectrum[k] = value * scale * w
         if 0 < k < n // 2:
             spectrum[n - k] = spectrum[k].conjugate()
-    x = numpy.fft.ifft(spectrum)
-    return numpy.exp(numpy.arange(n) * gamma0 / n) * x.real
+    try:
+        import numpy
+        x = numpy.fft.ifft(numpy.array(spectrum)).real
+    except ImportError:
+        x = [v.real for v in inverse_fft(spectrum)]
+    return [math.exp(k * gamma0 / n) * x[k] for k in range(n)]
 
 
 def main():
