@@ -4,6 +4,7 @@
 // It draws the interpreter's state and hands every request to it.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QPoint>
 #include <QPointer>
@@ -238,6 +239,8 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     bool selectionMode_ = false;
     bool keyboardBeforeProgress_ = false;
     std::int16_t runningPage_ = -1;
+    static constexpr qint64 kEventIntervalMs = 20;
+    QElapsedTimer eventClock_;         // since window events last ran
     std::vector<int> statementLines_;  // editor line of each execution list entry
     std::optional<ErrorLocation> faultLocation_;
     QPointer<QWidget> focusBeforeMessage_;  // gets the focus back after a message

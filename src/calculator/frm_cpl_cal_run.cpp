@@ -221,8 +221,14 @@ void FrmCplCal::CalProcMeter(double value, bool reset) {
     ProcessEvents();
 }
 
+// A program asks for window events at every statement; repainting the
+// window that often costs far more than the statements themselves, so the
+// events run at most every kEventIntervalMs (the stop button is still seen
+// at once to the eye).
 void FrmCplCal::ProcessEvents() {
+    if (eventClock_.isValid() && eventClock_.elapsed() < kEventIntervalMs) return;
     QCoreApplication::processEvents();
+    eventClock_.start();
 }
 
 void FrmCplCal::SetProgressView(bool on) {
