@@ -19,8 +19,6 @@ namespace {
 using testing_support::StatusLog;
 using Strings = std::vector<std::string>;
 
-const double kPi = 4.0 * std::atan(1.0);
-
 Complex OneOverSPlusOne(const Complex& s) {
     return CplDiv({1, 0}, CplAdd(s, {1, 0}));
 }
