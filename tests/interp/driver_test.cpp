@@ -25,12 +25,7 @@ class KaiHistoryView : public RecordingView {
     }
 };
 
-struct Driver : ::testing::Test {
-    KaiHistoryView view;
-    Interpreter interpreter{view};
-    double re = 0.0;
-    double im = 0.0;
-
+struct Driver : ::testing::Test, SessionWith<KaiHistoryView> {
     bool Run(bool eraseGlobals = true, bool run = true) {
         return interpreter.RunProgram(re, im, eraseGlobals, run);
     }
@@ -54,16 +49,13 @@ TEST(DriverAnalysis, RepeatsOnlyAfterAChange) {
                  2, "Result=3"},
                 {"globals erased", [](Interpreter& i) { i.EraseGlobals(); }, 2, "Result=2"}};
     for (const auto& row : rows) {
-        KaiHistoryView view;
-        Interpreter interpreter{view};
-        double re = 0.0, im = 0.0;
-        interpreter.SetProgramText(text);
-        ASSERT_TRUE(interpreter.RunProgram(re, im, true, true)) << row.name;
-        row.between(interpreter);
-        ASSERT_TRUE(interpreter.RunProgram(re, im, true, true)) << row.name;
-        EXPECT_EQ(view.Count("Now Analising"), row.analyses) << row.name;
-        EXPECT_EQ(view.Count("Now Executing"), 2) << row.name;
-        EXPECT_EQ(view.kai, row.kai) << row.name;
+        SessionWith<KaiHistoryView> s;
+        ASSERT_TRUE(s.Run(text)) << row.name;
+        row.between(s.interpreter);
+        ASSERT_TRUE(s.interpreter.RunProgram(s.re, s.im, true, true)) << row.name;
+        EXPECT_EQ(s.view.Count("Now Analising"), row.analyses) << row.name;
+        EXPECT_EQ(s.view.Count("Now Executing"), 2) << row.name;
+        EXPECT_EQ(s.view.kai, row.kai) << row.name;
     }
 }
 
@@ -161,17 +153,12 @@ class ReenteringView : public RecordingView {
 };
 
 TEST(DriverReentry, ARunStartedDuringARunIsRefused) {
-    ReenteringView view;
-    Interpreter session(view);
-    session.SetProgramText(
-        ProgramText({"s = 0", "For i = 1 To 3", "s = s + i", "Next", "Return s", "End"}));
-    view.session = &session;
-    double re = 0.0;
-    double im = 0.0;
-    ASSERT_TRUE(session.RunProgram(re, im, true, true));
-    EXPECT_EQ(re, 6.0);
-    EXPECT_GT(view.refusedRuns, 0);
-    EXPECT_FALSE(session.Busy());
+    SessionWith<ReenteringView> s;
+    s.view.session = &s.interpreter;
+    ASSERT_TRUE(s.Run({"s = 0", "For i = 1 To 3", "s = s + i", "Next", "Return s", "End"}));
+    EXPECT_EQ(s.re, 6.0);
+    EXPECT_GT(s.view.refusedRuns, 0);
+    EXPECT_FALSE(s.interpreter.Busy());
 }
 
 }  // namespace
