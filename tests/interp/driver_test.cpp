@@ -26,9 +26,9 @@ class KaiHistoryView : public RecordingView {
 };
 
 struct Driver : ::testing::Test, SessionWith<KaiHistoryView> {
-    bool Run(bool eraseGlobals = true, bool run = true) {
-        return interpreter.RunProgram(re, im, eraseGlobals, run);
-    }
+    using SessionWith::Run;  // not the test's own Run
+    // Runs the text set last again, as a second click on Run does.
+    bool RunAgain() { return interpreter.RunProgram(re, im, true, true); }
 };
 
 // A second run analyses again only when the text changed or the globals
@@ -60,16 +60,15 @@ TEST(DriverAnalysis, RepeatsOnlyAfterAChange) {
 }
 
 TEST_F(Driver, FailedAnalysisIsRepeatedOnTheNextRun) {
-    interpreter.SetProgramText(ProgramText({"Next", "End"}));
-    ASSERT_FALSE(Run());
-    ASSERT_FALSE(Run());
+    ASSERT_FALSE(Run({"Next", "End"}));
+    ASSERT_FALSE(RunAgain());
     EXPECT_EQ(view.Count("Now Analising"), 2);
     EXPECT_EQ(view.messages.size(), 2u);
 }
 
 TEST_F(Driver, AnalysisOnlyEndsOnCodeError) {
     interpreter.SetProgramText(ProgramText({"Return 2", "End", "Function F()", "End Function"}));
-    EXPECT_FALSE(Run(true, false));
+    EXPECT_FALSE(interpreter.RunProgram(re, im, true, false));
     EXPECT_EQ(view.kai, "Code Error2");
     EXPECT_EQ(view.Count("Analise is Completed"), 1);
     EXPECT_EQ(view.Count("Now Executing"), 0);
@@ -77,42 +76,37 @@ TEST_F(Driver, AnalysisOnlyEndsOnCodeError) {
 }
 
 TEST_F(Driver, ResultGivesBothPartsAndFollowsTheRoundedDisplay) {
-    interpreter.SetProgramText(ProgramText({"Return 1 / 3 - 4j", "End"}));
-    ASSERT_TRUE(Run());
+    ASSERT_TRUE(Run({"Return 1 / 3 - 4j", "End"}));
     EXPECT_EQ(re, 1.0 / 3);
     EXPECT_EQ(im, -4.0);
     EXPECT_EQ(view.kai, "Result=0.333333333333333-4j");
     view.rounded = true;
-    ASSERT_TRUE(Run());
+    ASSERT_TRUE(RunAgain());
     EXPECT_EQ(view.kai, "Result=0.333333-4j");
 }
 
 // A comment after ":" makes no statement of its own; a line feed alone also
 // ends a line.
 TEST_F(Driver, ProgramListHoldsOneEntryPerStatement) {
-    interpreter.SetProgramText("a = 1 : b = 2 ' note\r\n\r\n  c = 3\nEnd");
-    ASSERT_TRUE(Run());
+    ASSERT_TRUE(Run("a = 1 : b = 2 ' note\r\n\r\n  c = 3\nEnd"));
     EXPECT_EQ(view.programList, (std::vector<std::string>{"a = 1", "b = 2", "c = 3", "End"}));
 }
 
 TEST_F(Driver, ErasingTheGlobalsIsTheCallersChoice) {
-    ASSERT_TRUE(interpreter.ImmediateLine("g = 5").ok);
-    interpreter.SetProgramText(ProgramText({"Return g", "End"}));
-    ASSERT_TRUE(Run(false));
+    ASSERT_TRUE(Line("g = 5").ok);
+    ASSERT_TRUE(Run(ProgramText({"Return g", "End"}), false));
     EXPECT_EQ(view.kai, "Result=5");
-    interpreter.SetProgramText(ProgramText({"Return g + 1", "End"}));
-    EXPECT_FALSE(Run(true));
+    EXPECT_FALSE(Run({"Return g + 1", "End"}));
     EXPECT_EQ(interpreter.ImmediatePage().NumofMemory(), 0);
 }
 
 // A function named like the global page is refused; the globals stay.
 TEST_F(Driver, FunctionNamedLikeTheGlobalPageLeavesTheGlobalsAlone) {
-    ASSERT_TRUE(interpreter.ImmediateLine("g = 5").ok);
-    interpreter.SetProgramText(
-        ProgramText({"Return g", "End", "Function imidate(x)", "imidate = x", "End Function"}));
-    EXPECT_FALSE(Run(false));
-    interpreter.SetProgramText(ProgramText({"Return g", "End"}));
-    ASSERT_TRUE(Run(false));
+    ASSERT_TRUE(Line("g = 5").ok);
+    EXPECT_FALSE(
+        Run(ProgramText({"Return g", "End", "Function imidate(x)", "imidate = x", "End Function"}),
+            false));
+    ASSERT_TRUE(Run(ProgramText({"Return g", "End"}), false));
     EXPECT_EQ(view.kai, "Result=5");
     EXPECT_EQ(interpreter.ImmediatePage().PageIndex(), -1);
 }
@@ -125,8 +119,7 @@ TEST_F(Driver, RunsKeepMainVariablesButStartFromAZeroValue) {
         ProgramText({"n = n + 1", "If n = 1 Then", "Return 9", "End If", "End"});
     for (const auto& [program, kai] : {std::pair{text, "Result=9"}, std::pair{text, "Result=0"},
                                        std::pair{text + "\r\n", "Result=9"}}) {
-        interpreter.SetProgramText(program);
-        ASSERT_TRUE(Run());
+        ASSERT_TRUE(Run(program));
         EXPECT_EQ(view.kai, kai);
     }
 }
