@@ -237,7 +237,6 @@ INSTANTIATE_TEST_SUITE_P(
         FailureRow{"HeaderAsParameters", ValidFile(), {1, 4, 1, ","}, "line 1: N must be"},
         FailureRow{"ShortFile", ValidFile().substr(0, ValidFile().size() / 2), {}, "need 131"},
         FailureRow{"NoParameterLine", ValidFile(), {200, 4, 1, ","}, "parameter line 200"},
-        FailureRow{"ColumnFour", ValidFile(), {2, 4, 4, ","}, "first column 4"},
         FailureRow{"LineZero", ValidFile(), {0, 4, 1, ","}, "start at 1"},
         FailureRow{"BlankDataLine", WithLine(9, "   "), {}, "line 10: no numbers"},
         FailureRow{"HugeSample", WithLine(9, "1e400,0"), {}, "line 10: a number is out of range"},
