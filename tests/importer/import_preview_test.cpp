@@ -25,35 +25,6 @@ TEST(ImportPreview, NumbersEachLineWithThreeDigitsAndABar) {
     }
 }
 
-std::vector<std::string> Lines(int count) {
-    std::vector<std::string> lines;
-    for (int n = 1; n <= count; ++n) {
-        lines.push_back("line " + std::to_string(n));
-    }
-    return lines;
-}
-
-TEST(ImportPreview, ShowsAtMostTheFirst200Lines) {
-    const struct {
-        int lines;
-        std::size_t shown;
-    } rows[] = {{0, 0}, {3, 3}, {200, 200}, {201, 200}, {300, 200}};
-    for (const auto& row : rows) {
-        const std::vector<std::string> entries = PreviewEntries(Lines(row.lines));
-        ASSERT_EQ(entries.size(), row.shown) << row.lines << " lines";
-        if (row.shown == 0) continue;
-        EXPECT_EQ(entries.front(), "001|line 1");
-        EXPECT_EQ(entries.back(),
-                  PreviewEntry(static_cast<int>(row.shown), "line " + std::to_string(row.shown)));
-    }
-}
-
-TEST(ImportPreview, OffersTheNumbersOneToCount) {
-    EXPECT_EQ(NumberChoices(5), (std::vector<std::string>{"1", "2", "3", "4", "5"}));
-    EXPECT_TRUE(NumberChoices(0).empty());
-    EXPECT_TRUE(NumberChoices(-3).empty());
-}
-
 TEST(ImportPreview, SelectsAKeptAnswerOnlyWhenTheListHasIt) {
     const struct {
         int answer;

@@ -25,15 +25,10 @@ class KaiHistoryView : public RecordingView {
     }
 };
 
-struct Driver : ::testing::Test {
-    KaiHistoryView view;
-    Interpreter interpreter{view};
-    double re = 0.0;
-    double im = 0.0;
-
-    bool Run(bool eraseGlobals = true, bool run = true) {
-        return interpreter.RunProgram(re, im, eraseGlobals, run);
-    }
+struct Driver : ::testing::Test, SessionWith<KaiHistoryView> {
+    using SessionWith::Run;  // not the test's own Run
+    // Runs the text set last again, as a second click on Run does.
+    bool RunAgain() { return interpreter.RunProgram(re, im, true, true); }
 };
 
 // A second run analyses again only when the text changed or the globals
@@ -54,30 +49,26 @@ TEST(DriverAnalysis, RepeatsOnlyAfterAChange) {
                  2, "Result=3"},
                 {"globals erased", [](Interpreter& i) { i.EraseGlobals(); }, 2, "Result=2"}};
     for (const auto& row : rows) {
-        KaiHistoryView view;
-        Interpreter interpreter{view};
-        double re = 0.0, im = 0.0;
-        interpreter.SetProgramText(text);
-        ASSERT_TRUE(interpreter.RunProgram(re, im, true, true)) << row.name;
-        row.between(interpreter);
-        ASSERT_TRUE(interpreter.RunProgram(re, im, true, true)) << row.name;
-        EXPECT_EQ(view.Count("Now Analising"), row.analyses) << row.name;
-        EXPECT_EQ(view.Count("Now Executing"), 2) << row.name;
-        EXPECT_EQ(view.kai, row.kai) << row.name;
+        SessionWith<KaiHistoryView> s;
+        ASSERT_TRUE(s.Run(text)) << row.name;
+        row.between(s.interpreter);
+        ASSERT_TRUE(s.interpreter.RunProgram(s.re, s.im, true, true)) << row.name;
+        EXPECT_EQ(s.view.Count("Now Analising"), row.analyses) << row.name;
+        EXPECT_EQ(s.view.Count("Now Executing"), 2) << row.name;
+        EXPECT_EQ(s.view.kai, row.kai) << row.name;
     }
 }
 
 TEST_F(Driver, FailedAnalysisIsRepeatedOnTheNextRun) {
-    interpreter.SetProgramText(ProgramText({"Next", "End"}));
-    ASSERT_FALSE(Run());
-    ASSERT_FALSE(Run());
+    ASSERT_FALSE(Run({"Next", "End"}));
+    ASSERT_FALSE(RunAgain());
     EXPECT_EQ(view.Count("Now Analising"), 2);
     EXPECT_EQ(view.messages.size(), 2u);
 }
 
 TEST_F(Driver, AnalysisOnlyEndsOnCodeError) {
     interpreter.SetProgramText(ProgramText({"Return 2", "End", "Function F()", "End Function"}));
-    EXPECT_FALSE(Run(true, false));
+    EXPECT_FALSE(interpreter.RunProgram(re, im, true, false));
     EXPECT_EQ(view.kai, "Code Error2");
     EXPECT_EQ(view.Count("Analise is Completed"), 1);
     EXPECT_EQ(view.Count("Now Executing"), 0);
@@ -85,42 +76,37 @@ TEST_F(Driver, AnalysisOnlyEndsOnCodeError) {
 }
 
 TEST_F(Driver, ResultGivesBothPartsAndFollowsTheRoundedDisplay) {
-    interpreter.SetProgramText(ProgramText({"Return 1 / 3 - 4j", "End"}));
-    ASSERT_TRUE(Run());
+    ASSERT_TRUE(Run({"Return 1 / 3 - 4j", "End"}));
     EXPECT_EQ(re, 1.0 / 3);
     EXPECT_EQ(im, -4.0);
     EXPECT_EQ(view.kai, "Result=0.333333333333333-4j");
     view.rounded = true;
-    ASSERT_TRUE(Run());
+    ASSERT_TRUE(RunAgain());
     EXPECT_EQ(view.kai, "Result=0.333333-4j");
 }
 
 // A comment after ":" makes no statement of its own; a line feed alone also
 // ends a line.
 TEST_F(Driver, ProgramListHoldsOneEntryPerStatement) {
-    interpreter.SetProgramText("a = 1 : b = 2 ' note\r\n\r\n  c = 3\nEnd");
-    ASSERT_TRUE(Run());
+    ASSERT_TRUE(Run("a = 1 : b = 2 ' note\r\n\r\n  c = 3\nEnd"));
     EXPECT_EQ(view.programList, (std::vector<std::string>{"a = 1", "b = 2", "c = 3", "End"}));
 }
 
 TEST_F(Driver, ErasingTheGlobalsIsTheCallersChoice) {
-    ASSERT_TRUE(interpreter.ImmediateLine("g = 5").ok);
-    interpreter.SetProgramText(ProgramText({"Return g", "End"}));
-    ASSERT_TRUE(Run(false));
+    ASSERT_TRUE(Line("g = 5").ok);
+    ASSERT_TRUE(Run(ProgramText({"Return g", "End"}), false));
     EXPECT_EQ(view.kai, "Result=5");
-    interpreter.SetProgramText(ProgramText({"Return g + 1", "End"}));
-    EXPECT_FALSE(Run(true));
+    EXPECT_FALSE(Run({"Return g + 1", "End"}));
     EXPECT_EQ(interpreter.ImmediatePage().NumofMemory(), 0);
 }
 
 // A function named like the global page is refused; the globals stay.
 TEST_F(Driver, FunctionNamedLikeTheGlobalPageLeavesTheGlobalsAlone) {
-    ASSERT_TRUE(interpreter.ImmediateLine("g = 5").ok);
-    interpreter.SetProgramText(
-        ProgramText({"Return g", "End", "Function imidate(x)", "imidate = x", "End Function"}));
-    EXPECT_FALSE(Run(false));
-    interpreter.SetProgramText(ProgramText({"Return g", "End"}));
-    ASSERT_TRUE(Run(false));
+    ASSERT_TRUE(Line("g = 5").ok);
+    EXPECT_FALSE(
+        Run(ProgramText({"Return g", "End", "Function imidate(x)", "imidate = x", "End Function"}),
+            false));
+    ASSERT_TRUE(Run(ProgramText({"Return g", "End"}), false));
     EXPECT_EQ(view.kai, "Result=5");
     EXPECT_EQ(interpreter.ImmediatePage().PageIndex(), -1);
 }
@@ -133,8 +119,7 @@ TEST_F(Driver, RunsKeepMainVariablesButStartFromAZeroValue) {
         ProgramText({"n = n + 1", "If n = 1 Then", "Return 9", "End If", "End"});
     for (const auto& [program, kai] : {std::pair{text, "Result=9"}, std::pair{text, "Result=0"},
                                        std::pair{text + "\r\n", "Result=9"}}) {
-        interpreter.SetProgramText(program);
-        ASSERT_TRUE(Run());
+        ASSERT_TRUE(Run(program));
         EXPECT_EQ(view.kai, kai);
     }
 }
@@ -161,17 +146,12 @@ class ReenteringView : public RecordingView {
 };
 
 TEST(DriverReentry, ARunStartedDuringARunIsRefused) {
-    ReenteringView view;
-    Interpreter session(view);
-    session.SetProgramText(
-        ProgramText({"s = 0", "For i = 1 To 3", "s = s + i", "Next", "Return s", "End"}));
-    view.session = &session;
-    double re = 0.0;
-    double im = 0.0;
-    ASSERT_TRUE(session.RunProgram(re, im, true, true));
-    EXPECT_EQ(re, 6.0);
-    EXPECT_GT(view.refusedRuns, 0);
-    EXPECT_FALSE(session.Busy());
+    SessionWith<ReenteringView> s;
+    s.view.session = &s.interpreter;
+    ASSERT_TRUE(s.Run({"s = 0", "For i = 1 To 3", "s = s + i", "Next", "Return s", "End"}));
+    EXPECT_EQ(s.re, 6.0);
+    EXPECT_GT(s.view.refusedRuns, 0);
+    EXPECT_FALSE(s.interpreter.Busy());
 }
 
 }  // namespace

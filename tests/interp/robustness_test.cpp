@@ -162,8 +162,7 @@ INSTANTIATE_TEST_SUITE_P(
 // Asks to stop once the given number of lines has been shown.
 class StoppingView : public RecordingView {
   public:
-    explicit StoppingView(int lines) : limit(lines) {}
-    int limit;
+    int limit = 500;
     int shown = 0;
     void ShowLineIndex(std::int16_t) override {
         if (++shown >= limit) stopRequested = true;
@@ -179,17 +178,11 @@ struct StopRow {
 class StopRequest : public ::testing::TestWithParam<StopRow> {};
 
 TEST_P(StopRequest, EndsTheRunWithoutAMessage) {
-    StoppingView view(500);
-    Interpreter interpreter(view);
-    std::string text;
-    for (std::string_view line : GetParam().lines)
-        text += std::string(line) + "\r\n";
-    interpreter.SetProgramText(text);
-    double re = 0.0, im = 0.0;
-    EXPECT_FALSE(interpreter.RunProgram(re, im, true, true));
-    EXPECT_EQ(view.kai, GetParam().kai);
-    EXPECT_TRUE(view.messages.empty());
-    EXPECT_EQ(view.shown, view.limit);  // no line runs after the request
+    SessionWith<StoppingView> s;
+    EXPECT_FALSE(s.RunLines(GetParam().lines));
+    EXPECT_EQ(s.view.kai, GetParam().kai);
+    EXPECT_TRUE(s.view.messages.empty());
+    EXPECT_EQ(s.view.shown, s.view.limit);  // no line runs after the request
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -69,8 +69,7 @@ TEST(NestedCalls, AFailingCalleeLeavesTheArrayWithTheSameSubscripts) {
 // on line `stopLine` (0-based, as the run loop counts).
 class StopInsideView : public RecordingView {
   public:
-    explicit StopInsideView(std::int16_t line) : stopLine(line) {}
-    std::int16_t stopLine;
+    std::int16_t stopLine = 0;
     std::int16_t current = -1;
     int eventsInside = 0;
     void ShowLineIndex(std::int16_t line) override { current = line; }
@@ -95,16 +94,11 @@ struct StopInsideRow {
 class StopInside : public ::testing::TestWithParam<StopInsideRow> {};
 
 TEST_P(StopInside, EndsTheStatementWithoutAMessage) {
-    StopInsideView view(GetParam().stopLine);
-    Interpreter interpreter(view);
-    std::string text;
-    for (const std::string& line : GetParam().lines)
-        text += line + "\r\n";
-    interpreter.SetProgramText(text);
-    double re = 0.0, im = 0.0;
-    EXPECT_FALSE(interpreter.RunProgram(re, im, true, true));
-    EXPECT_EQ(view.kai, "End of Analize Page Number=1");
-    EXPECT_TRUE(view.messages.empty());
+    SessionWith<StopInsideView> s;
+    s.view.stopLine = GetParam().stopLine;
+    EXPECT_FALSE(s.RunLines(GetParam().lines));
+    EXPECT_EQ(s.view.kai, "End of Analize Page Number=1");
+    EXPECT_TRUE(s.view.messages.empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(

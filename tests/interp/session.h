@@ -23,8 +23,10 @@ inline std::string ProgramText(std::initializer_list<std::string_view> lines) {
     return text;
 }
 
-struct Session {
-    RecordingView view;
+// A session whose view may record more than RecordingView does.
+template <typename View>
+struct SessionWith {
+    View view;
     Interpreter interpreter{view};
     double re = 0.0;
     double im = 0.0;
@@ -35,6 +37,13 @@ struct Session {
         return interpreter.RunProgram(re, im, eraseGlobals, true);
     }
     bool Run(std::initializer_list<std::string_view> lines) { return Run(ProgramText(lines)); }
+    template <typename Lines>
+    bool RunLines(const Lines& lines) {
+        std::string text;
+        for (const auto& line : lines)
+            text += std::string(line) + "\r\n";
+        return Run(text);
+    }
 
     ImmediateResult Line(std::string_view line) { return interpreter.ImmediateLine(line); }
     ClsCode& Global() { return interpreter.ImmediatePage(); }
@@ -48,5 +57,7 @@ struct Session {
         return -1;
     }
 };
+
+using Session = SessionWith<RecordingView>;
 
 }  // namespace lapdesk

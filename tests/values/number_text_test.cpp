@@ -99,25 +99,20 @@ TEST(RoundToDigits, RoundsToSignificantDigits) {
 
 // Fifteen significant digits, E+nn/E-nn for large and small values, the
 // imaginary part's sign only between two parts; rounded, six digits and
-// parts under 1E-10 of the modulus dropped.
+// parts under 1E-10 of the modulus dropped. 3-4j, 2j, (-1)^0.5 plain and
+// rounded, and 1.23457-9.87654j are in the calc golden files.
 TEST(ComplexToText, Formats) {
-    const Complex minusOneToTheHalf{std::cos(3.14159265358979 / 2), 1.0};
     const struct {
         Complex z;
         bool rounded;
         const char* text;
     } rows[] = {{{-0.0, 0}, false, "0"},
                 {{-0.5, 0}, false, "-0.5"},
-                {{0, -2}, false, "2j"},
-                {{3, -4}, false, "3-4j"},
                 {{2.0 / 3, 0}, false, "0.666666666666667"},
                 {{123456789012345, 0}, false, "123456789012345"},
                 {{123456789012345678.0, 0}, false, "1.23456789012346E+17"},
                 {{-2.5e-300, 0}, false, "-2.5E-300"},
                 {{1.5e20, -1e-7}, false, "1.5E+20-1E-07j"},
-                {minusOneToTheHalf, false, "1.61554457443259E-15+1j"},
-                {minusOneToTheHalf, true, "1j"},
-                {{1.23456789, -9.87654321}, true, "1.23457-9.87654j"},
                 {{1e-12, -1}, true, "1j"},
                 {{5e-11, 5e-11}, true, "0"},
                 {{1, 1e-9}, true, "1+1E-09j"},
