@@ -70,8 +70,7 @@ TEST_F(FilesTest, DataReadFromAFileAreSavedWithoutAProgram) {
     script->files = {PathOf("made.Ldt")};
     Click("ButtonResultWrite");
     script->files = {PathOf("made.Ldt")};
-    const WisardAnswers answers;
-    AnswerWisard(&answers);
+    AnswerWisard(true);
     Click("ButtonDataRead");
     ASSERT_EQ(Text("DataSourceLb"), QStringLiteral("File"));
     script->files = {PathOf("again.Ldt")};
@@ -91,7 +90,7 @@ TEST_F(FilesTest, NoFileNameOrACancelledWizardReadsNothing) {
 
     WriteBytes(folder / "other.Ldt", "Word Number\r\n 128, 5, 5\r\n");
     script->files = {PathOf("other.Ldt")};
-    AnswerWisard(nullptr);
+    AnswerWisard(false);
     Action("MenueReadLapData")->trigger();
     EXPECT_EQ(wisardShowings, 1);
     EXPECT_EQ(form->wisard().labels().FileNameLb, PathOf("other.Ldt"));
@@ -121,8 +120,7 @@ TEST_F(FilesTest, AFailedReadSaysWhereAndWhatWasFound) {
     for (const auto& row : rows) {
         WriteBytes(folder / "bad.Ldt", row.bytes);
         script->files = {PathOf("bad.Ldt")};
-        const WisardAnswers answers;
-        AnswerWisard(&answers);
+        AnswerWisard(true);
         wisardShowings = 0;
         Click("ButtonDataRead");
         EXPECT_EQ(wisardShowings, row.wisardShows ? 1 : 0) << row.reason;
@@ -161,7 +159,7 @@ TEST_F(FilesTest, DataDialogsChooseLdtAndStartWhereTheLastFileWas) {
     EXPECT_EQ(script->initialPaths.last(), QString::fromStdString(folder.path().string()))
         << "the folder the calculator's program came from";
     EXPECT_TRUE(QFile::exists(PathOf("ramp.Ldt"))) << "the suffix is added";
-    AnswerWisard(nullptr);
+    AnswerWisard(false);
     Click("ButtonDataRead");
     EXPECT_EQ(script->selectedFilters.last(), QStringLiteral("Data(*.Ldt)"));
     EXPECT_EQ(script->initialPaths.last(), QString::fromStdString(folder.path().string()))

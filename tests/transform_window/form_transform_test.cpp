@@ -61,8 +61,7 @@ TEST_F(TransformTest, TypedProgramToPlotTableFileAndBack) {
     EXPECT_EQ(Scrn()->DrawnPoints(), 0);
 
     script->files = {path};
-    const WisardAnswers answers;  // ",", 2, 4, 1
-    AnswerWisard(&answers);
+    AnswerWisard(true);
     Click("ButtonDataRead");
     EXPECT_EQ(wisardShowings, 1);
     EXPECT_EQ(script->dialogTitles.back(), QStringLiteral("データファイルを開く"));
