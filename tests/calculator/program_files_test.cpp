@@ -31,6 +31,7 @@ TEST_F(ProgramFilesTest, WritesThenReadsBackTheSameText) {
         {"japanese", "' 変数\r\nEnd", QByteArray("' \x95\xcf\x90\x94\r\nEnd\r\n")},
         {"empty", "", QByteArray("\r\n")},
         {"blank lines", "a = 1\r\n\r\nEnd", QByteArray("a = 1\r\n\r\nEnd\r\n")},
+        {"trailing break", "End\r\n", QByteArray("End\r\n\r\n")},
     };
     for (const auto& row : rows) {
         const QString path = Path(row.name);
@@ -40,13 +41,6 @@ TEST_F(ProgramFilesTest, WritesThenReadsBackTheSameText) {
         ASSERT_TRUE(read.ok) << row.name;
         EXPECT_EQ(read.text, QString::fromUtf8(row.text)) << row.name;
     }
-}
-
-TEST_F(ProgramFilesTest, TrailingBreakGetsOneMoreAndReadsBackWithoutIt) {
-    const QString path = Path("trailing");
-    ASSERT_EQ(WriteProgramFile(path, QStringLiteral("End\r\n")), QString());
-    EXPECT_EQ(Bytes(path), QByteArray("End\r\n\r\n"));
-    EXPECT_EQ(ReadProgramFile(path).text, QStringLiteral("End\r\n"));
 }
 
 TEST_F(ProgramFilesTest, ReadsLfUtf8AndEmptyFiles) {

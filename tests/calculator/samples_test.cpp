@@ -41,16 +41,13 @@ void ExpectRuns(const SampleProgram& sample, bool atPEqualsOne) {
     EXPECT_EQ(ComplexToText(value, true), expected) << sample.title;
 }
 
-TEST(Samples, GeneralSamplesGiveTheirStatedResults) {
-    ASSERT_FALSE(GeneralSamples().empty());
-    for (const SampleProgram& sample : GeneralSamples())
-        ExpectRuns(sample, false);
-}
-
-TEST(Samples, TransformSamplesDefineFOfP) {
-    ASSERT_FALSE(TransformSamples().empty());
-    for (const SampleProgram& sample : TransformSamples())
-        ExpectRuns(sample, true);
+TEST(Samples, GiveTheirStatedResults) {
+    for (const bool transform : {false, true}) {
+        const auto& samples = transform ? TransformSamples() : GeneralSamples();
+        ASSERT_FALSE(samples.empty());
+        for (const SampleProgram& sample : samples)
+            ExpectRuns(sample, transform);
+    }
 }
 
 }  // namespace

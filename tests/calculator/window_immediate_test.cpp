@@ -44,37 +44,31 @@ TEST_F(ImmediateLineTest, ButtonEnterEvaluatesAndHidesTheHint) {
     EXPECT_EQ(Immediate()->text(), QStringLiteral("2^10"));
 }
 
-TEST_F(ImmediateLineTest, RoundedDisplayShortensValues) {
-    TypeLine(QStringLiteral("1/3"));
-    EXPECT_EQ(Kai(), QStringLiteral("0.333333333333333"));
-    Action("MenueSingleDisp")->trigger();
-    TypeLine(QStringLiteral("1/3"));
-    EXPECT_EQ(Kai(), QStringLiteral("0.333333"));
+TEST_F(ImmediateLineTest, DisplayAndAngleOptionsApplyToTheNextLine) {
+    const struct {
+        const char* option;  // triggered before the line
+        const char* line;
+        const char* kai;
+    } rows[] = {
+        {nullptr, "1/3", "0.333333333333333"},
+        {"MenueSingleDisp", "1/3", "0.333333"},
+        {"MenueDegree", "Sin(30)", "0.5"},
+        {"MenueRadian", "Sin(Pai/6)", "0.5"},
+    };
+    for (const auto& row : rows) {
+        if (row.option != nullptr) Action(row.option)->trigger();
+        TypeLine(QString::fromUtf8(row.line));
+        EXPECT_EQ(Kai(), QString::fromUtf8(row.kai)) << row.line;
+    }
 }
 
-TEST_F(ImmediateLineTest, DegreesChangeTheAngleUnit) {
-    Action("MenueDegree")->trigger();
-    TypeLine(QStringLiteral("Sin(30)"));
-    EXPECT_EQ(Kai(), QStringLiteral("0.5"));
-    Action("MenueRadian")->trigger();
-    TypeLine(QStringLiteral("Sin(0)"));
-    EXPECT_EQ(Kai(), QStringLiteral("0"));
-}
-
-TEST_F(ImmediateLineTest, CtrlDoubleClickRecallsTheLineAsTyped) {
+// A double-click on the history zooms it; with Ctrl it recalls the line as
+// typed instead.
+TEST_F(ImmediateLineTest, HistoryDoubleClickZoomsOrRecalls) {
     TypeLine(QStringLiteral("a = 3"));
     TypeLine(QStringLiteral("a+1"));
     auto* history = Find<QListWidget>("HistryList");
     ASSERT_EQ(Rows(history), (QStringList{"a+1 = 4", "a = 3 = 3"}));
-    const int pointSize = history->font().pointSize();
-    DoubleClickRow(history, 1, Qt::ControlModifier);
-    EXPECT_EQ(Immediate()->text(), QStringLiteral("a = 3"));
-    EXPECT_EQ(history->font().pointSize(), pointSize) << "recalling does not zoom";
-}
-
-TEST_F(ImmediateLineTest, HistoryDoubleClickZooms) {
-    TypeLine(QStringLiteral("1"));
-    auto* history = Find<QListWidget>("HistryList");
     QFont font = history->font();
     font.setPointSize(10);
     history->setFont(font);
@@ -82,14 +76,16 @@ TEST_F(ImmediateLineTest, HistoryDoubleClickZooms) {
         Qt::KeyboardModifiers modifiers;
         int pointSize;
     } steps[] = {
-        {Qt::NoModifier, 11},     // larger
-        {Qt::ShiftModifier, 10},  // smaller
-        {Qt::AltModifier, 11},    // any other state: larger (the floor of 9 is a rule's test)
+        {Qt::NoModifier, 11},       // larger
+        {Qt::ShiftModifier, 10},    // smaller
+        {Qt::AltModifier, 11},      // any other state: larger (the floor of 9 is a rule's test)
+        {Qt::ControlModifier, 11},  // recalls, does not zoom
     };
     for (const auto& step : steps) {
-        DoubleClickRow(history, 0, step.modifiers);
+        DoubleClickRow(history, 1, step.modifiers);
         EXPECT_EQ(history->font().pointSize(), step.pointSize);
     }
+    EXPECT_EQ(Immediate()->text(), QStringLiteral("a = 3"));
     // An empty history zooms as well.
     history->clear();
     QTest::mouseDClick(history->viewport(), Qt::LeftButton, {}, QPoint(10, 10));
@@ -133,13 +129,6 @@ TEST_F(ImmediateLineTest, ResultAndImmediateBoxZoom) {
     EXPECT_EQ(box->font().pointSize(), boxSize + 1);
     QTest::mouseDClick(box, Qt::LeftButton, Qt::ShiftModifier);
     EXPECT_EQ(box->font().pointSize(), boxSize);
-}
-
-TEST_F(ImmediateLineTest, ErrmessageBlocksUntilDoubleClicked) {
-    window->Errmessage("最初の行\r\n次の行");
-    ASSERT_EQ(messages, QStringList{QStringLiteral("最初の行\n次の行")});
-    EXPECT_FALSE(buttonsWhileWaiting);
-    EXPECT_FALSE(window->MessageWaiting());
 }
 
 TEST_F(ImmediateLineTest, WaiteBlocksUntilDoubleClicked) {

@@ -37,7 +37,7 @@ TEST_F(MemoryTest, ListsPageAndGlobalVariables) {
     EXPECT_EQ(Label("MemorysLbG"), QStringLiteral("3"));
 }
 
-TEST_F(MemoryTest, ArrayPanelListsEveryElement) {
+TEST_F(MemoryTest, ArrayPanelNamesTheArrayAndListsEveryElement) {
     DoubleClickRow(GlobalList(), 1);
     EXPECT_FALSE(Find<QWidget>("FrmArryValues")->isVisible()) << "a scalar opens nothing";
     DoubleClickRow(GlobalList(), 0);
@@ -50,11 +50,9 @@ TEST_F(MemoryTest, ArrayPanelListsEveryElement) {
     Click("ButtonCloseArray");
     EXPECT_FALSE(panel->isVisible());
     EXPECT_TRUE(Find<QWidget>("CalcuFrame")->isEnabled());
-}
 
-TEST_F(MemoryTest, PageArrayCaptionNamesThePage) {
     DoubleClickRow(PageList(), 0);
-    EXPECT_EQ(Find<QGroupBox>("FrmArryValues")->title(), QStringLiteral("Main 配列  B(1) の値"));
+    EXPECT_EQ(panel->title(), QStringLiteral("Main 配列  B(1) の値"));
     EXPECT_EQ(Rows(Find<QListWidget>("ArryList")), (QStringList{"(  0 )=0", "(  1 )=2j"}));
 }
 
@@ -83,11 +81,6 @@ TEST_F(MemoryTest, ClearingButtons) {
     EXPECT_EQ(window->interpreter().ImmediatePage().NumofMemory(), 0);
     EXPECT_TRUE(Rows(GlobalList()).isEmpty());
     EXPECT_EQ(Label("MemorysLbG"), QString());
-}
-
-TEST_F(MemoryTest, ImmediateLineRefreshesTheDisplay) {
-    TypeLine(QStringLiteral("w = 3"));
-    EXPECT_EQ(Rows(GlobalList()).last(), QStringLiteral("w=3"));
 }
 
 TEST_F(MemoryTest, WideElementShowsInFull) {

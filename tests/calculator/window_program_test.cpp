@@ -21,19 +21,15 @@ const QString kSum = QStringLiteral(
     "End\n");
 
 TEST_F(ProgramTest, ModesShowTheirControls) {
-    QTest::mouseClick(Find<QWidget>("OptionProgram"), Qt::LeftButton);
-    EXPECT_TRUE(Find<QWidget>("ProgramFrame")->isVisible());
-    EXPECT_FALSE(Find<QWidget>("HistryList")->isVisible());
-    EXPECT_FALSE(Find<QWidget>("FrameKeyBoard")->isVisible());
-    for (const char* name : {"MenueExe", "MenueExeList", "MenueReadProgram", "MenueWriteProgram"}) {
-        EXPECT_TRUE(Action(name)->isEnabled()) << name;
-    }
-    QTest::mouseClick(Find<QWidget>("OptionNomal"), Qt::LeftButton);
-    EXPECT_FALSE(Find<QWidget>("ProgramFrame")->isVisible());
-    EXPECT_TRUE(Find<QWidget>("HistryList")->isVisible());
-    EXPECT_FALSE(Find<QWidget>("FrameKeyBoard")->isVisible()) << "shown again only on request";
-    for (const char* name : {"MenueExe", "MenueExeList", "MenueReadProgram", "MenueWriteProgram"}) {
-        EXPECT_FALSE(Action(name)->isEnabled()) << name;
+    for (const bool program : {true, false}) {
+        QTest::mouseClick(Find<QWidget>(program ? "OptionProgram" : "OptionNomal"), Qt::LeftButton);
+        EXPECT_EQ(Find<QWidget>("ProgramFrame")->isVisible(), program);
+        EXPECT_EQ(Find<QWidget>("HistryList")->isVisible(), !program);
+        EXPECT_FALSE(Find<QWidget>("FrameKeyBoard")->isVisible()) << "shown again only on request";
+        for (const char* name :
+             {"MenueExe", "MenueExeList", "MenueReadProgram", "MenueWriteProgram"}) {
+            EXPECT_EQ(Action(name)->isEnabled(), program) << name;
+        }
     }
     Click("CommandKeyBoard");
     EXPECT_TRUE(Find<QWidget>("FrameKeyBoard")->isVisible());

@@ -90,8 +90,7 @@ TEST_F(AccuracyTest, FileDataShowNoLayers) {
     const QString path = PathOf("first-order.Ldt");
     script->files = {path, path};
     Click("ButtonResultWrite");
-    const WisardAnswers answers;
-    AnswerWisard(&answers);
+    AnswerWisard(true);
     Click("ButtonDataRead");
     ASSERT_EQ(Text("DataSourceLb"), QStringLiteral("File"));
     EXPECT_EQ(Scrn()->plottableCount(), 1);

@@ -85,18 +85,14 @@ void FormTest::RunProgram(const QString& text) {
     QApplication::processEvents();
 }
 
-void FormTest::AnswerWisard(const WisardAnswers* answers) {
-    if (answers == nullptr) {
-        wisardAnswer_ = [this] {
-            QTest::mouseClick(
-                form->wisard().findChild<QPushButton*>(QStringLiteral("ButtonCalcel")),
-                Qt::LeftButton);
-        };
-        return;
-    }
-    const WisardAnswers chosen = *answers;
-    wisardAnswer_ = [this, chosen] {
+void FormTest::AnswerWisard(bool ok) {
+    wisardAnswer_ = [this, ok] {
         ReadFileWisard& wisard = form->wisard();
+        if (!ok) {
+            QTest::mouseClick(wisard.findChild<QPushButton*>(QStringLiteral("ButtonCalcel")),
+                              Qt::LeftButton);
+            return;
+        }
         auto choose = [&wisard](const char* name, int number) {
             auto* list = wisard.findChild<QListWidget*>(QString::fromLatin1(name));
             QListWidgetItem* item = list->item(number - 1);
@@ -104,11 +100,11 @@ void FormTest::AnswerWisard(const WisardAnswers* answers) {
             QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
                               list->visualItemRect(item).center());
         };
-        choose("SpecialRow", chosen.parameterLine);
-        choose("TopRow", chosen.firstDataLine);
-        choose("TopColumn", chosen.firstColumn);
+        choose("SpecialRow", 2);
+        choose("TopRow", 4);
+        choose("TopColumn", 1);
         auto* delimiters = wisard.findChild<QComboBox*>(QStringLiteral("DelimiterList"));
-        const int index = delimiters->findText(chosen.delimiter);
+        const int index = delimiters->findText(QStringLiteral(","));
         delimiters->setCurrentIndex(index);
         emit delimiters->activated(index);
         QTest::mouseClick(wisard.findChild<QPushButton*>(QStringLiteral("ButtonOk")),

@@ -29,14 +29,6 @@
 
 namespace lapdesk::testing {
 
-// The answers that read back a file the window saved.
-struct WisardAnswers {
-    QString delimiter = QStringLiteral(",");
-    int parameterLine = 2;
-    int firstDataLine = 4;
-    int firstColumn = 1;
-};
-
 class FormTest : public ::testing::Test {
   protected:
     void SetUp() override;
@@ -60,9 +52,10 @@ class FormTest : public ::testing::Test {
     void SetProgram(const QString& text);
     // Makes data with the program and transforms it, as "実行" does.
     void RunProgram(const QString& text);
-    // The next showing of the wizard is answered by choosing these entries
-    // and clicking OK, or by Cancel when answers is empty.
-    void AnswerWisard(const WisardAnswers* answers);
+    // The next showing of the wizard is answered by OK with the entries that
+    // read back a file the window saved ("," between columns, parameters on
+    // line 2, data from line 4 and column 1), or by Cancel.
+    void AnswerWisard(bool ok);
     bool SawStatus(const QString& text) const { return statuses.contains(text); }
 
     testing_support::TempFolder folder;

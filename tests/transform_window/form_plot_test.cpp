@@ -71,24 +71,20 @@ TEST_F(PlotTest, TheReadoutFollowsTheCursorAndIsCopiedOnRightClick) {
     QApplication::clipboard()->setText(QStringLiteral("old"));
     QTest::mouseClick(scrn, Qt::RightButton, {}, at);
     EXPECT_EQ(QApplication::clipboard()->text(), floating->text());
-}
 
-TEST_F(PlotTest, TheReadoutOfDataNamesTheSampleIndex) {
-    RunProgram(QStringLiteral("Return 1/(p+1)\nEnd"));
-    Find<QWidget>("Frame3")->hide();
     Click("ButtonDrawLapData");
-    ScrnPlot* scrn = Scrn();
-    const QPoint at(scrn->xAxis->coordToPixel(128.0), scrn->yAxis->coordToPixel(0.0));
-    QTest::mouseMove(scrn, at);
-    EXPECT_EQ(Text("PosX"), QStringLiteral("k= 128"));
+    QTest::mouseMove(scrn, QPoint(scrn->xAxis->coordToPixel(128.0), at.y()));
+    EXPECT_EQ(Text("PosX"), QStringLiteral("k= 128")) << "data are read by sample index";
 }
 
-TEST_F(PlotTest, TheReadoutFollowsAPanAndTheCopyIsOfTheCursorsPlace) {
+// Dragging pans, the wheel zooms, and the readout and its copy follow both.
+TEST_F(PlotTest, TheReadoutFollowsAPanAndAZoom) {
     RunProgram(QStringLiteral("Return 1/(p+1)\nEnd"));
     Find<QWidget>("Frame3")->hide();
     ScrnPlot* scrn = Scrn();
     const QPoint start = scrn->axisRect()->rect().center();
     const QPoint end = start - QPoint(120, 0);
+    const double lower = scrn->xAxis->range().lower;
     QTest::mouseMove(scrn, start);
     QTest::mousePress(scrn, Qt::LeftButton, {}, start);
     QMouseEvent drag(QEvent::MouseMove, QPointF(end), QPointF(scrn->mapToGlobal(end)), Qt::NoButton,
@@ -98,12 +94,15 @@ TEST_F(PlotTest, TheReadoutFollowsAPanAndTheCopyIsOfTheCursorsPlace) {
     QApplication::processEvents();  // the queued replot of the pan
     const QString t =
         QString::fromStdString(ReadoutText("t= ", scrn->xAxis->pixelToCoord(end.x())));
+    EXPECT_GT(scrn->xAxis->range().lower, lower) << "dragged to the left shows later t";
     EXPECT_EQ(Text("PosX"), t) << "read with the axes after the pan";
 
+    const double width = scrn->xAxis->range().size();
     QWheelEvent wheel(QPointF(end), QPointF(scrn->mapToGlobal(end)), QPoint(), QPoint(0, 120),
                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(scrn, &wheel);
     QApplication::processEvents();
+    EXPECT_LT(scrn->xAxis->range().size(), width) << "zoomed in";
     const QPoint elsewhere = end + QPoint(0, 40);
     QTest::mouseClick(scrn, Qt::RightButton, {}, elsewhere);
     const QString y =
@@ -112,42 +111,17 @@ TEST_F(PlotTest, TheReadoutFollowsAPanAndTheCopyIsOfTheCursorsPlace) {
         << QApplication::clipboard()->text().toStdString();
 }
 
-TEST_F(PlotTest, TheFloatingReadoutLeavesWithTheMouse) {
+TEST_F(PlotTest, TheFloatingReadoutStaysInsideAndLeavesWithTheMouse) {
     ScrnPlot* scrn = Scrn();
-    QTest::mouseMove(scrn, scrn->rect().center());
+    QTest::mouseMove(scrn, QPoint(scrn->width() - 2, scrn->height() - 2));
     auto* floating = Find<QLabel>("FloatLb");
     ASSERT_TRUE(floating->isVisible());
+    EXPECT_TRUE(scrn->rect().contains(floating->geometry())) << "near the corner";
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(scrn, &leave);
     EXPECT_FALSE(floating->isVisible());
     scrn->replot();
     EXPECT_FALSE(floating->isVisible()) << "a replot does not bring it back";
-}
-
-TEST_F(PlotTest, TheFloatingReadoutStaysInsideNearTheEdge) {
-    ScrnPlot* scrn = Scrn();
-    const QPoint corner(scrn->width() - 2, scrn->height() - 2);
-    QTest::mouseMove(scrn, corner);
-    EXPECT_TRUE(scrn->rect().contains(Find<QLabel>("FloatLb")->geometry()));
-}
-
-TEST_F(PlotTest, TheWheelZoomsAndDraggingPans) {
-    ScrnPlot* scrn = Scrn();
-    const QPoint centre = scrn->axisRect()->rect().center();
-    const double width = scrn->xAxis->range().size();
-    QWheelEvent wheel(QPointF(centre), QPointF(scrn->mapToGlobal(centre)), QPoint(), QPoint(0, 120),
-                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(scrn, &wheel);
-    EXPECT_LT(scrn->xAxis->range().size(), width) << "zoomed in";
-
-    const double lower = scrn->xAxis->range().lower;
-    QTest::mousePress(scrn, Qt::LeftButton, {}, centre);
-    QMouseEvent drag(QEvent::MouseMove, QPointF(centre - QPoint(100, 0)),
-                     QPointF(scrn->mapToGlobal(centre - QPoint(100, 0))), Qt::NoButton,
-                     Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(scrn, &drag);
-    QTest::mouseRelease(scrn, Qt::LeftButton, {}, centre - QPoint(100, 0));
-    EXPECT_GT(scrn->xAxis->range().lower, lower) << "dragged to the left shows later t";
 }
 
 TEST_F(PlotTest, TheResultFrameShowsTheTableAndHides) {

@@ -63,7 +63,7 @@ TEST_F(StaleTest, TheStateLabelsReadNonAsSoonAsDataCreationStarts) {
     EXPECT_EQ(Text("NowDispLb"), QStringLiteral("Res"));
 }
 
-TEST_F(StaleTest, AFailingProgramNamesThePointTheFaultAndItsLine) {
+TEST_F(StaleTest, AFailingProgramLeavesNoDataAndNamesThePointTheFaultAndItsLine) {
     RunProgram(kFirstOrder);
     // Fails from k = 10 on.
     RunProgram(QStringLiteral(
@@ -75,21 +75,13 @@ TEST_F(StaleTest, AFailingProgramNamesThePointTheFaultAndItsLine) {
     EXPECT_TRUE(status.contains(QStringLiteral("(Main: 2行目)"))) << status.toStdString();
     EXPECT_EQ(Scrn()->view(), PlotView::None) << "the old result is gone";
     EXPECT_FALSE(Find<QWidget>("Frame3")->isVisible());
-}
-
-TEST_F(StaleTest, AStoppedRunSaysWhereItStopped) {
-    const QMetaObject::Connection stopper = QObject::connect(
-        form.get(), &TesmorForm::statusChanged, form.get(), [this](const QString& s) {
-            if (s == QStringLiteral("データ作成中")) {
-                QMetaObject::invokeMethod(
-                    &Calculator(), [this] { Calculator().ButtonStop_Click(); },
-                    Qt::QueuedConnection);
-            }
-        });
-    RunProgram(kFirstOrder);
-    QObject::disconnect(stopper);
-    EXPECT_TRUE(Text("StatusBar").startsWith(QStringLiteral("プログラム実行中断：k = 0 (p = 1)")))
-        << Text("StatusBar").toStdString();
+    EXPECT_EQ(messages.size(), 1) << "the calculator shows the error";
+    EXPECT_EQ(Text("DataSourceLb"), QStringLiteral("Non"));
+    EXPECT_EQ(Text("ResultLb"), QStringLiteral("Non"));
+    EXPECT_FALSE(Find<QPushButton>("ButtonExeTesmor")->isEnabled());
+    EXPECT_TRUE(Find<QWidget>("ButtonsFrame")->isEnabled()) << "the commands are back";
+    EXPECT_TRUE(Action("MenueMathematRun")->isEnabled());
+    EXPECT_NE(form->driver().Store()[kSampleRe].Values[9], 0.0) << "what was made is kept";
 }
 
 TEST_F(StaleTest, DataDisplayWithoutDataDrawsNothing) {

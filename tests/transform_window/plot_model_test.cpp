@@ -72,15 +72,6 @@ TEST(PlotModel, ResultIsAgainstTimeAndScaledByTheReliablePart) {
     EXPECT_EQ(content.y.upper, expected.upper);
 }
 
-TEST(PlotModel, EmptyBoxSpansTheRecordAndOnePointOneEachWay) {
-    const PlotContent content = EmptyContent(8.0);
-    EXPECT_EQ(content.view, PlotView::None);
-    EXPECT_TRUE(content.curves.empty());
-    EXPECT_EQ(content.x.upper, 8.0);
-    EXPECT_DOUBLE_EQ(content.y.lower, -1.1);
-    EXPECT_DOUBLE_EQ(content.y.upper, 1.1);
-}
-
 TEST(PlotModel, ReadoutOfDataNamesTheNearestSample) {
     const struct {
         PlotView view;
