@@ -1,5 +1,5 @@
-// Runs the calculator tests inside one QApplication on the offscreen platform
-// (unless another platform was asked for).
+// Runs a widget test program inside one QApplication on the offscreen
+// platform (unless another platform was asked for).
 #include <gtest/gtest.h>
 
 #include <QApplication>
