@@ -7,6 +7,7 @@
 
 #include <string>
 
+#include "bench_programs.h"
 #include "interp/interpreter.h"
 #include "interp/recording_view.h"
 #include "ratio_table.h"
@@ -16,9 +17,8 @@
 namespace lapdesk {
 namespace {
 
-constexpr const char* kReturnProgram = "Return 1/(p+1)\r\nEnd\r\n";
-constexpr const char* kLoopProgram =
-    "s = 0\r\nFor k = 1 To 200\r\ns = s + 1/((p+k)*(p+k))\r\nNext\r\nReturn s\r\nEnd\r\n";
+using bench::kLoopProgram;
+using bench::kReturnProgram;
 
 // The data set of a program for N points, made again at every iteration.
 void SampleProgram(benchmark::State& state, const char* program, const char* n) {

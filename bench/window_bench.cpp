@@ -7,6 +7,7 @@
 
 #include <QApplication>
 
+#include "bench_programs.h"
 #include "calculator/frm_cpl_cal.h"
 #include "interp/interpreter.h"
 #include "interp/recording_view.h"
@@ -17,9 +18,8 @@
 namespace lapdesk {
 namespace {
 
-constexpr const char* kReturnProgram = "Return 1/(p+1)\r\nEnd\r\n";
-constexpr const char* kLoopProgram =
-    "s = 0\r\nFor k = 1 To 200\r\ns = s + 1/((p+k)*(p+k))\r\nNext\r\nReturn s\r\nEnd\r\n";
+using bench::kLoopProgram;
+using bench::kReturnProgram;
 
 FrmCplCal& Window() {
     static FrmCplCal* window = [] {
