@@ -20,22 +20,6 @@ namespace {
 using bench::kLoopProgram;
 using bench::kReturnProgram;
 
-// The data set of a program for N points, made again at every iteration.
-void SampleProgram(benchmark::State& state, const char* program, const char* n) {
-    RecordingView view;
-    Interpreter session(view);
-    session.SetProgramText(program);
-    TransformDriver driver;
-    driver.SetWordNumber(n);
-    for (auto _ : state) {
-        if (!TesmorDataSet(driver, session)) {
-            state.SkipWithError("the program did not make the data");
-            break;
-        }
-    }
-    state.SetItemsProcessed(state.iterations() * (driver.GetConditions().NPos + 1));
-}
-
 // The same data made by F written in C++.
 template <typename F>
 void SampleNative(benchmark::State& state, F f, const char* n) {
@@ -64,13 +48,13 @@ Complex LoopSum(const Complex& p) {
 }
 
 void BM_ReturnProgram4096(benchmark::State& state) {
-    SampleProgram(state, kReturnProgram, "4096");
+    bench::MakeProgramData(state, kReturnProgram, "4096");
 }
 void BM_ReturnNative4096(benchmark::State& state) {
     SampleNative(state, OneOverPPlusOne, "4096");
 }
 void BM_LoopProgram1024(benchmark::State& state) {
-    SampleProgram(state, kLoopProgram, "1024");
+    bench::MakeProgramData(state, kLoopProgram, "1024");
 }
 void BM_LoopNative1024(benchmark::State& state) {
     SampleNative(state, LoopSum, "1024");

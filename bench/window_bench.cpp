@@ -9,11 +9,7 @@
 
 #include "bench_programs.h"
 #include "calculator/frm_cpl_cal.h"
-#include "interp/interpreter.h"
-#include "interp/recording_view.h"
 #include "ratio_table.h"
-#include "transform/program/program_sampling.h"
-#include "transform/transform_driver.h"
 
 namespace lapdesk {
 namespace {
@@ -31,40 +27,21 @@ FrmCplCal& Window() {
     return *window;
 }
 
-void MakeData(benchmark::State& state, Interpreter& session, const char* program, const char* n) {
-    session.SetProgramText(program);
-    TransformDriver driver;
-    driver.SetWordNumber(n);
-    for (auto _ : state) {
-        if (!TesmorDataSet(driver, session)) {
-            state.SkipWithError("the program did not make the data");
-            break;
-        }
-    }
-    state.SetItemsProcessed(state.iterations() * (driver.GetConditions().NPos + 1));
-}
-
 void Shown(benchmark::State& state, const char* program, const char* n) {
-    MakeData(state, Window().interpreter(), program, n);
-}
-
-void Unshown(benchmark::State& state, const char* program, const char* n) {
-    RecordingView view;
-    Interpreter session(view);
-    MakeData(state, session, program, n);
+    bench::MakeProgramData(state, Window().interpreter(), program, n);
 }
 
 void BM_WindowReturnProgram4096(benchmark::State& state) {
     Shown(state, kReturnProgram, "4096");
 }
 void BM_UnshownReturnProgram4096(benchmark::State& state) {
-    Unshown(state, kReturnProgram, "4096");
+    bench::MakeProgramData(state, kReturnProgram, "4096");
 }
 void BM_WindowLoopProgram1024(benchmark::State& state) {
     Shown(state, kLoopProgram, "1024");
 }
 void BM_UnshownLoopProgram1024(benchmark::State& state) {
-    Unshown(state, kLoopProgram, "1024");
+    bench::MakeProgramData(state, kLoopProgram, "1024");
 }
 
 BENCHMARK(BM_WindowReturnProgram4096)->Unit(benchmark::kMillisecond);

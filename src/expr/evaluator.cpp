@@ -162,7 +162,7 @@ bool Evaluator::EvalFlatSum(const FlatSum& flat, Complex& value) {
                 const NameWithSubscripts& target = primary.name;
                 if (!scope_.ReadVariable(*this, target.name, target.subscripts, primary.place,
                                          stack[top])) {
-                    return Fail("「" + std::string(target.name) + "」は定義されていません");
+                    return FailUnknownName(target);
                 }
                 ++top;
                 break;
@@ -261,6 +261,12 @@ bool Evaluator::EvalNamed(const PrimaryScan& scan, Complex& value) {
     if (!scan.isName) return false;
     const NameWithSubscripts& target = scan.name;
     if (scope_.ReadVariable(*this, target.name, target.subscripts, scan.place, value)) return true;
+    return FailUnknownName(target);
+}
+
+// A name the scope could not read: a plain one is unknown, and says so; an
+// element's failure has its reason already.
+bool Evaluator::FailUnknownName(const NameWithSubscripts& target) {
     if (target.subscripts.empty()) Fail("「" + std::string(target.name) + "」は定義されていません");
     return false;
 }

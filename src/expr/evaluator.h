@@ -72,6 +72,7 @@ class Evaluator {
     bool EvalScalarFunction(const FunctionCallScan& call, Complex& value);
     bool EvalMatrixFunction(const FunctionCallScan& call, Complex& value);
     bool EvalNamed(const PrimaryScan& scan, Complex& value);
+    bool FailUnknownName(const NameWithSubscripts& target);
 
     NameScope& scope_;
     std::string failure_;

@@ -70,6 +70,14 @@ bool IsRealShape(std::string_view s, long long& order) {
     return i == s.size();
 }
 
+using TextBuffer = char[64];
+
+// The digits DoubleToText shows (lower-case exponent); returns their end.
+const char* WriteDigits(double x, TextBuffer& buffer) {
+    return std::to_chars(buffer, buffer + sizeof buffer, x, std::chars_format::general, kTextDigits)
+        .ptr;
+}
+
 std::string UpperExponent(const char* begin, const char* end) {
     std::string text(begin, end);
     for (char& c : text) {
@@ -134,20 +142,17 @@ std::string RoundToDigits(const std::string& text, std::int16_t n) {
 
 std::string DoubleToText(double x) {
     if (x == 0.0) return "0";
-    char buffer[64];
-    const auto result =
-        std::to_chars(buffer, buffer + sizeof buffer, x, std::chars_format::general, kTextDigits);
-    return UpperExponent(buffer, result.ptr);
+    TextBuffer buffer;
+    return UpperExponent(buffer, WriteDigits(x, buffer));
 }
 
 std::optional<double> DoubleThroughText(double x) {
     if (x == 0.0) return 0.0;
-    char buffer[64];
-    const auto written =
-        std::to_chars(buffer, buffer + sizeof buffer, x, std::chars_format::general, kTextDigits);
+    TextBuffer buffer;
+    const char* written = WriteDigits(x, buffer);
     double value = 0.0;
-    const auto [end, ec] = std::from_chars(buffer, written.ptr, value);
-    if (ec != std::errc() || end != written.ptr) return std::nullopt;
+    const auto [end, ec] = std::from_chars(buffer, written, value);
+    if (ec != std::errc() || end != written) return std::nullopt;
     return value;
 }
 

@@ -115,7 +115,7 @@ Outcome MakeDataFromProgram(TransformDriver& driver, Interpreter& session) {
     driver.BeginDataCreation();
     tap.ClearStopRequest();
     tap.CalProcMeter(c.NPos, true);
-    const std::optional<double> gamma = DoubleThroughText(driver.SamplePoint(0).Re);
+    const std::optional<double> gamma = DoubleThroughText(c.Gamma());
     Outcome made;
     for (int k = 0; k <= c.NPos && made.ok; ++k) {
         tap.CalProcMeter(k, false);
