@@ -15,9 +15,7 @@ class Flattener {
         for (std::size_t t = 0; t < scan.sum.count; ++t) {
             if (!Term(scan, scan.terms[t])) return false;
             if (t == 0) {
-                FlatStep step = Step(FlatStep::Kind::Sign);
-                step.op = scan.terms[t].op;
-                flat_->steps.push_back(step);
+                Emit(Step(FlatStep::Kind::Sign, scan.terms[t].op));
             } else {
                 Apply(scan.terms[t].op);
             }
@@ -25,7 +23,7 @@ class Flattener {
         return true;
     }
 
-    bool fits() const { return fits_; }
+    bool fits() const { return depth_ <= FlatSum::kMaxStack; }
     std::unique_ptr<FlatSum> Take() { return std::move(flat_); }
 
   private:
@@ -57,7 +55,8 @@ class Flattener {
         if (primary.literal) {
             FlatStep step = Step(FlatStep::Kind::Literal);
             step.literal = *primary.literal;
-            Push(step);
+            Emit(step);
+            Pushed();
             return true;
         }
         if (primary.mayBeConstant) return false;
@@ -65,36 +64,32 @@ class Flattener {
             if (!primary.name.subscripts.empty()) return false;
             FlatStep step = Step(FlatStep::Kind::Name);
             step.name = &primary;
-            Push(step);
+            Emit(step);
+            Pushed();
             return true;
         }
         if (!primary.bracketed || ++brackets_ > kMaxBrackets) return false;
-        flat_->steps.push_back(Step(FlatStep::Kind::Poll));
+        Emit(Step(FlatStep::Kind::Poll));
         return Sum(primary.bracketed->Get());
     }
 
-    static FlatStep Step(FlatStep::Kind kind) {
+    static FlatStep Step(FlatStep::Kind kind, char op = 0) {
         FlatStep step;
         step.kind = kind;
+        step.op = op;
         return step;
     }
-    void Push(const FlatStep& step) {
-        flat_->steps.push_back(step);
-        depth_ = std::max(depth_, ++stack_);
-        fits_ = fits_ && depth_ <= FlatSum::kMaxStack;
-    }
+    void Emit(const FlatStep& step) { flat_->steps.push_back(step); }
+    void Pushed() { depth_ = std::max(depth_, ++stack_); }
     void Apply(char op) {
-        FlatStep step = Step(FlatStep::Kind::Apply);
-        step.op = op;
-        flat_->steps.push_back(step);
+        Emit(Step(FlatStep::Kind::Apply, op));
         --stack_;
     }
 
     static constexpr int kMaxBrackets = 64;
     std::unique_ptr<FlatSum> flat_ = std::make_unique<FlatSum>();
     std::size_t stack_ = 0;
-    std::size_t depth_ = 0;
-    bool fits_ = true;
+    std::size_t depth_ = 0;  // the most operands on the stack at once
     int brackets_ = 0;
 };
 
