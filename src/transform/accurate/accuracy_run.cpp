@@ -1,6 +1,41 @@
 #include "transform/accurate/accuracy_run.h"
 
+#include <cmath>
+
+#include "transform/accurate/last_peak.h"
+
 namespace lapdesk {
+
+namespace {
+
+// The FFT's value and band at the accurate inversion's times, over the
+// FFT's reliable part; none where F is not what the FFT assumes.
+References FftReferences(const TransformDriver& fft, const FftErrorBand& band,
+                         const SingularityCheck& check) {
+    const Conditions c = fft.GetConditions();
+    References references(static_cast<std::size_t>(c.N - 1));
+    if (!band.ok || check.verdict != SingularityVerdict::Fine) return references;
+    const ReliablePart part = ReliablePartOf(c);
+    for (int n = part.first; n <= part.last; ++n)
+        references[n - 1] = ReferencePoint{fft.Store()[kResult].Values[n], band.band[n]};
+    return references;
+}
+
+// Im s of the last resonance of F on the FFT's sampling line.
+double ResonanceHeight(const Conditions& c, const LineValues& line) {
+    std::vector<double> magnitudes;
+    for (const std::optional<Complex>& value : line) {
+        if (!value) break;
+        magnitudes.push_back(std::hypot(value->Re, value->Im));
+    }
+    return static_cast<double>(LastPeak(magnitudes)) * c.DeltaOmega();
+}
+
+}  // namespace
+
+ReliablePart ReliablePartOf(const Conditions& c) {
+    return {kUnreliableFirstSteps, static_cast<int>(std::nearbyint(kReliableFraction * c.N))};
+}
 
 std::vector<double> AccurateTimes(const Conditions& c) {
     std::vector<double> times;
@@ -16,7 +51,7 @@ AccuracyReport RunAccuracyChecks(const TransformDriver& fft, const LaplaceFuncti
     const LineValues line = LineValuesFromStore(fft);
     report.check = CheckSingularity(c, line, f);
     report.stopped = report.check.stopped;
-    if (options.band && !report.stopped) {
+    if ((options.band || options.accurate) && !report.stopped) {
         report.band = EstimateFftError(fft, f, line);
         report.stopped = report.band->stopped;
     }
@@ -25,7 +60,9 @@ AccuracyReport RunAccuracyChecks(const TransformDriver& fft, const LaplaceFuncti
         // Growth: f rises so fast that the method's own line must move right
         // with the FFT's (a singularity near gamma0/T, left of it).
         if (report.check.growth) parameters.alpha = c.Gamma();
-        report.accurate = InvertAccurately(f, AccurateTimes(c), parameters);
+        parameters.resonance = ResonanceHeight(c, line);
+        report.accurate = InvertAccurately(f, AccurateTimes(c), parameters,
+                                           FftReferences(fft, *report.band, report.check));
         report.stopped = report.accurate->stopped;
     }
     return report;

@@ -1,8 +1,10 @@
 // Everything the accuracy features add to one damped-FFT result, in one call:
 // the singularity check on the FFT's own samples, the error band of the FFT,
 // and the accurate inversion on the result's grid t_n = n*T/N, n = 1..N-1
-// (t = 0 is left out: the accurate method does not define it). The FFT
-// result itself is only read.
+// (t = 0 is left out: the accurate method does not define it). The accurate
+// inversion always has the band beside it: where the check finds F fit for
+// the FFT, every accurate point over the FFT's reliable part is compared with
+// the FFT's value and band. The FFT result itself is only read.
 #pragma once
 
 #include <optional>
@@ -15,8 +17,19 @@
 
 namespace lapdesk {
 
+// The result indices where the FFT can be trusted, first..last inclusive:
+// from the fourth step (t = 0 is half of f(0+), and the first steps ring
+// around that jump) to 0.8 T (the end of the record carries the wrap-around).
+struct ReliablePart {
+    int first = 0;
+    int last = 0;
+};
+inline constexpr int kUnreliableFirstSteps = 4;
+inline constexpr double kReliableFraction = 0.8;
+ReliablePart ReliablePartOf(const Conditions& conditions);
+
 struct AccuracyOptions {
-    bool band = false;      // the FFT's error band
+    bool band = false;      // the FFT's error band (always made for the accurate inversion)
     bool accurate = false;  // the accurate inversion
     AccurateParameters parameters;
 };
@@ -28,7 +41,7 @@ struct AccuracyReport {
     bool stopped = false;  // F asked to stop; later parts did not run
 };
 
-// The times of the accurate inversion for the driver's N and T.
+// The times of the accurate inversion for the driver's N and T: t_n, n = 1..N-1.
 std::vector<double> AccurateTimes(const Conditions& conditions);
 
 // fft holds the result of a run on data made by f.

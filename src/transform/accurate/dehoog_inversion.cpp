@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "transform/accurate/dehoog_fraction.h"
+#include "transform/accurate/last_peak.h"
 #include "transform/accurate/point_text.h"
 
 namespace lapdesk {
@@ -16,46 +17,101 @@ namespace {
 
 using Cx = std::complex<double>;
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kEpsilon = std::numeric_limits<double>::epsilon();
+// Differences below this share of max(|f|, 1) are rounding, not disagreement.
+constexpr double kAgreementFloor = 1e-12;
+// A difference between two sums measures the error of the worse of them; the
+// one shown may be that one, and the other is not exact either.
+constexpr double kEstimateSafety = 2.0;
+// The reference's bound is an estimate too: it falls short of its true error
+// at a few points in a hundred, by up to a few times.
+constexpr double kReferenceSafety = 4.0;
 
-// How a band is summed: its length ratio, the terms, and T' = factor * t1
-// for the result and for the check.
+// How a band is summed: its length ratio, T' = factor * t1 for the primary
+// and the check set, and the primary fraction's first depth.
 struct Layout {
     double ratio;
-    int m;
     double primaryFactor;
     double checkFactor;
+    int firstM;
 };
 
-// One parameter set on one band: the nodes' values and the fraction on them.
-struct BandSum {
+// The first layout is the plain one; the others, for the points it left
+// short, use shorter bands (fewer oscillations of f per period) and start
+// deeper.
+std::vector<Layout> Layouts(const AccurateParameters& p) {
+    return {{p.bandRatio, 2.0, 2.5, p.M},
+            {2.0, 1.5, 1.9, std::min(2 * p.M, p.maxM)},
+            {1.5, 1.25, 1.6, std::min(4 * p.M, p.maxM)}};
+}
+
+// Values a series may take before a band gives up: a sum whose resonances
+// keep rising with every doubling (a square wave) ends here, flagged.
+constexpr int kMaxValuesPerSeries = 4096;
+
+// F at gamma + j*pi*k/T' for k = 0, 1, ... (the k = 0 term halved), grown
+// on demand. A resonance of F (f rings) makes |a_k| peak: the continued
+// fraction cannot follow such a bump (its quotient-difference table turns to
+// noise and settles on a wrong value), so the terms up to past the last peak
+// are summed directly and the fraction sums only the smooth tail after them.
+struct Series {
     double period = 0.0;  // T'
     double gamma = 0.0;
+    std::vector<Cx> a;
     double sumAbs = 0.0;  // sum of |a_k|, for the rounding floor
-    bool zero = false;    // every a_k is 0: the sum is 0
-    std::optional<DeHoogFraction> fraction;
+    int shift = 0;        // terms summed directly before the fraction
+    std::optional<DeHoogFraction> fraction;  // on a[shift..]; none when all 0
 
     double Scale(double t) const { return std::exp(gamma * t) / period; }
-    // f at depth m of the fraction; NaN when the fraction broke down.
+    // f at depth m of the tail's fraction; NaN when the fraction broke down.
     double Value(double t, int m) const {
-        if (zero) return 0.0;
-        if (!fraction->ok()) return std::numeric_limits<double>::quiet_NaN();
-        const Cx z = std::polar(1.0, std::numbers::pi * t / period);
-        return Scale(t) * fraction->Evaluate(z, m).real();
+        const double angle = std::numbers::pi * t / period;
+        Cx sum{};
+        for (int k = 0; k < shift; ++k)
+            sum += a[k] * std::polar(1.0, k * angle);
+        if (fraction) {
+            if (!fraction->ok()) return std::numeric_limits<double>::quiet_NaN();
+            const Cx z = std::polar(1.0, angle);
+            sum += std::polar(1.0, shift * angle) * fraction->Evaluate(z, m);
+        }
+        return Scale(t) * sum.real();
+    }
+    // Where the fraction must start: a little past the last peak of |a_k|.
+    int ShiftNeeded() const {
+        std::vector<double> magnitudes(a.size());
+        std::transform(a.begin(), a.end(), magnitudes.begin(), [](const Cx& x) { return std::abs(x); });
+        const int peak = static_cast<int>(LastPeak(magnitudes));
+        return peak == 0 ? 0 : peak + peak / 2 + 8;
+    }
+    void Refit() {
+        fraction.reset();
+        const std::span<const Cx> tail(a.begin() + shift, a.end());
+        if (std::any_of(tail.begin(), tail.end(), [](const Cx& x) { return x != Cx{}; }))
+            fraction.emplace(tail);
     }
 };
 
 struct Candidate {
     double value = 0.0;
     double estimate = kInfinity;
+    bool agrees = true;  // with the reference, and so did the rest of its band
+
+    bool BetterThan(const Candidate& other) const {
+        if (agrees != other.agrees) return agrees;
+        return estimate < other.estimate;
+    }
 };
 
 class Inverter {
   public:
-    Inverter(const LaplaceFunction& f, const AccurateParameters& p, AccurateResult& result)
-        : f_(f), p_(p), result_(result) {}
+    Inverter(const LaplaceFunction& f, const AccurateParameters& p, const References& references,
+             AccurateResult& result)
+        : f_(f), p_(p), references_(references), result_(result) {}
+
+    double scale = 1.0;  // max(max |f|, 1) as far as known
 
     // Sums the given points (indices into result_.points) in bands of the
-    // layout and keeps, per point, the candidate with the smaller estimate.
+    // layout and keeps, per point, the better candidate.
     void Sweep(const std::vector<std::size_t>& todo, const Layout& layout,
                std::vector<Candidate>& best) {
         std::size_t i = 0;
@@ -72,77 +128,122 @@ class Inverter {
     }
 
   private:
+    // Doubles the primary depth until every point of the band meets the
+    // target and its reference, or the cap is reached; every round's
+    // candidates compete for the best.
     void SumBand(const std::vector<std::size_t>& band, const Layout& layout,
                  std::vector<Candidate>& best) {
-        const double t0 = result_.points[band.front()].t;
         const double t1 = result_.points[band.back()].t;
-        const std::string where = BandText(++bandCount_, t0, t1);
-        const std::optional<BandSum> primary = Sample(layout.primaryFactor * t1, layout.m, where);
-        if (!primary) return;
-        const std::optional<BandSum> check = Sample(layout.checkFactor * t1, layout.m, where);
-        if (!check) return;
-        for (const std::size_t index : band) {
-            const double t = result_.points[index].t;
-            const double value = primary->Value(t, layout.m);
-            const double shorter = primary->Value(t, layout.m - 1);
-            const double other = check->Value(t, layout.m);
-            const double floor =
-                std::numeric_limits<double>::epsilon() * primary->Scale(t) * primary->sumAbs;
-            double estimate = std::max({std::abs(value - shorter), std::abs(value - other), floor});
-            if (!std::isfinite(value) || !std::isfinite(estimate)) estimate = kInfinity;
-            if (estimate < best[index].estimate) best[index] = {value, estimate};
+        const std::string where = BandText(++bandCount_, result_.points[band.front()].t, t1);
+        Series primary = MakeSeries(layout.primaryFactor * t1);
+        Series check = MakeSeries(layout.checkFactor * t1);
+        for (int m = layout.firstM; m <= p_.maxM; m *= 2) {
+            if (!Grow(primary, 2 * m, where) || !Grow(check, m, where)) return;
+            std::vector<Candidate> round;
+            bool settled = true;
+            bool agrees = true;
+            for (const std::size_t index : band) {
+                const Candidate c = Sum(primary, check, result_.points[index].t, m);
+                const double bar = p_.target * std::max(scale, std::abs(c.value));
+                settled = settled && c.estimate <= bar;
+                agrees = agrees && Agrees(index, c);
+                round.push_back(c);
+            }
+            for (std::size_t j = 0; j < band.size(); ++j) {
+                round[j].agrees = agrees;
+                if (round[j].BetterThan(best[band[j]])) best[band[j]] = round[j];
+            }
+            const bool brokeDown = primary.fraction && !primary.fraction->ok();
+            if ((settled && agrees) || brokeDown) return;
         }
     }
 
-    // F at s_k = gamma + j*pi*k/T' for k = 0..2m; nothing when F fails or
-    // is asked to stop (the reason goes to the problems).
-    std::optional<BandSum> Sample(double period, int m, const std::string& where) {
-        BandSum sum;
-        sum.period = period;
-        sum.gamma = p_.alpha - std::log(p_.tol) / (2.0 * period);
-        std::vector<Cx> a(static_cast<std::size_t>(2 * m + 1));
-        sum.zero = true;
-        for (int k = 0; k <= 2 * m; ++k) {
-            const Complex s{sum.gamma, std::numbers::pi * k / period};
-            ++result_.evaluations;
-            const FValue v = f_(s);
-            if (v.stopped) {
-                result_.stopped = true;
-                return std::nullopt;
+    // The primary cut at depth m, its estimate against itself cut at depth
+    // 2m (twice as high in frequency) and against the check set at depth m.
+    // The deeper cut is not the value shown: its fraction's coefficients
+    // carry more rounding from the quotient-difference table.
+    static Candidate Sum(const Series& primary, const Series& check, double t, int m) {
+        const double value = primary.Value(t, m);
+        const double floor = kEpsilon * primary.Scale(t) * primary.sumAbs;
+        double estimate = kEstimateSafety * std::max({std::abs(value - primary.Value(t, 2 * m)),
+                                                      std::abs(value - check.Value(t, m)), floor});
+        if (!std::isfinite(value) || !std::isfinite(estimate)) estimate = kInfinity;
+        return {value, estimate, true};
+    }
+
+    bool Agrees(std::size_t index, const Candidate& c) const {
+        if (references_.empty() || !references_[index] || !std::isfinite(c.estimate)) return true;
+        const ReferencePoint& r = *references_[index];
+        return std::abs(c.value - r.value) <=
+               c.estimate + kReferenceSafety * r.bound + kAgreementFloor * scale;
+    }
+
+    Series MakeSeries(double period) const {
+        Series s;
+        s.period = period;
+        s.gamma = p_.alpha - std::log(p_.tol) / (2.0 * period);
+        return s;
+    }
+
+    // Takes F at the series' nodes until its fraction reaches the given
+    // depth past the directly summed terms; false when F fails or is asked to
+    // stop (the reason goes to the problems), or when the series would pass
+    // its cap.
+    bool Grow(Series& series, int depth, const std::string& where) {
+        // Nodes reach past the highest resonance known beforehand, so that
+        // the first sum already sees it.
+        const int reach =
+            static_cast<int>(std::ceil(1.25 * p_.resonance * series.period / std::numbers::pi));
+        for (;;) {
+            const int count = std::max(series.shift + 2 * depth + 1, reach);
+            if (count > kMaxValuesPerSeries) return false;
+            if (static_cast<int>(series.a.size()) >= count) break;
+            for (int k = static_cast<int>(series.a.size()); k < count; ++k) {
+                if (!Take(series, k, where)) return false;
             }
-            if (!v.ok || !std::isfinite(v.value.Re) || !std::isfinite(v.value.Im)) {
-                const std::string why = v.ok ? std::string("値が有限でない") : v.reason;
-                result_.problems.push_back(where + ": s = " + PointText(s) + " で " + why);
-                return std::nullopt;
-            }
-            a[k] = {v.value.Re, v.value.Im};
-            if (k == 0) a[k] *= 0.5;
-            sum.sumAbs += std::abs(a[k]);
-            if (a[k] != Cx{}) sum.zero = false;
+            series.shift = std::max(series.shift, series.ShiftNeeded());
         }
-        if (!sum.zero) sum.fraction.emplace(a);
-        return sum;
+        series.Refit();
+        return true;
+    }
+
+    bool Take(Series& series, int k, const std::string& where) {
+        const Complex s{series.gamma, std::numbers::pi * k / series.period};
+        ++result_.evaluations;
+        const FValue v = f_(s);
+        if (v.stopped) {
+            result_.stopped = true;
+            return false;
+        }
+        if (!v.ok || !std::isfinite(v.value.Re) || !std::isfinite(v.value.Im)) {
+            const std::string why = v.ok ? std::string("値が有限でない") : v.reason;
+            result_.problems.push_back(where + ": s = " + PointText(s) + " で " + why);
+            return false;
+        }
+        const Cx a = Cx{v.value.Re, v.value.Im} * (k == 0 ? 0.5 : 1.0);
+        series.a.push_back(a);
+        series.sumAbs += std::abs(a);
+        return true;
     }
 
     const LaplaceFunction& f_;
     const AccurateParameters& p_;
+    const References& references_;
     AccurateResult& result_;
     int bandCount_ = 0;
 };
 
-// The first layout is the plain one; the others spend more values of F on
-// shorter bands, more terms and other periods, for the points it left short.
-std::vector<Layout> Layouts(const AccurateParameters& p) {
-    return {{p.bandRatio, p.M, 2.0, 2.5},
-            {2.0, p.M, 1.0, 1.25},
-            {2.0, 2 * p.M, 2.0, 2.5},
-            {1.5, 2 * p.M, 1.0, 1.25}};
+PointState FinalState(const Candidate& c, double bar) {
+    if (!std::isfinite(c.estimate)) return PointState::NotApplicable;
+    if (!c.agrees) return PointState::Disagrees;
+    return c.estimate <= bar ? PointState::Converged : PointState::NotConverged;
 }
 
 }  // namespace
 
 AccurateResult InvertAccurately(const LaplaceFunction& f, std::span<const double> times,
-                                const AccurateParameters& parameters) {
+                                const AccurateParameters& parameters,
+                                const References& references) {
     AccurateResult result;
     for (const double t : times)
         result.points.push_back({t, 0.0, kInfinity, PointState::NotApplicable});
@@ -150,31 +251,27 @@ AccurateResult InvertAccurately(const LaplaceFunction& f, std::span<const double
     std::vector<std::size_t> todo(times.size());
     for (std::size_t i = 0; i < todo.size(); ++i)
         todo[i] = i;
-    Inverter inverter(f, parameters, result);
+    Inverter inverter(f, parameters, references, result);
     for (const Layout& layout : Layouts(parameters)) {
         inverter.Sweep(todo, layout, best);
         if (result.stopped) break;
-        double scale = 1.0;
         for (const Candidate& c : best) {
-            if (std::isfinite(c.estimate)) scale = std::max(scale, std::abs(c.value));
+            if (std::isfinite(c.estimate) && c.agrees)
+                inverter.scale = std::max(inverter.scale, std::abs(c.value));
         }
         todo.clear();
         for (std::size_t i = 0; i < best.size(); ++i) {
-            if (!(best[i].estimate <= parameters.target * scale)) todo.push_back(i);
+            if (FinalState(best[i], parameters.target * inverter.scale) != PointState::Converged)
+                todo.push_back(i);
         }
         if (todo.empty()) break;
     }
-    const std::vector<std::size_t> shortOnes = todo;
     for (std::size_t i = 0; i < best.size(); ++i) {
         AccuratePoint& point = result.points[i];
-        if (!std::isfinite(best[i].estimate)) continue;
+        point.state = FinalState(best[i], parameters.target * inverter.scale);
+        if (point.state == PointState::NotApplicable) continue;
         point.value = best[i].value;
         point.estimate = best[i].estimate;
-        point.state = PointState::Converged;
-    }
-    for (const std::size_t i : shortOnes) {
-        if (result.points[i].state == PointState::Converged)
-            result.points[i].state = PointState::NotConverged;
     }
     return result;
 }

@@ -1,15 +1,26 @@
-// The accurate inversion: de Hoog, Knight and Stokes in bands of t. Every
-// band is summed with two parameter sets (period 2T' with T' = 2 t1, and with
-// T' = 2.5 t1 as the check; t1 is the band's last t), because one set can be
-// wrong while agreeing with itself (sin(10t)/10 with T' = 2 t1 is 1e-4 off).
-// The error estimate is the larger of the two disagreements (the fraction
-// against itself cut two levels earlier, and the two sets against each
-// other), never below the rounding floor eps * e^(gamma t)/T' * sum |a_k|.
-// Points whose estimate misses the target are tried again with shorter bands,
-// other periods and more terms before they are marked as not converged.
+// The accurate inversion: de Hoog, Knight and Stokes in bands of t.
+//
+// Every band is summed with two parameter sets: the primary one (period 2T',
+// T' = a factor times the band's last t) and a check with a longer period.
+// The primary set's terms grow with F: its fraction is cut at depth M and at
+// depth 2M (the nodes of depth M are the first half of those of depth 2M, so
+// doubling costs 2M more values), and M doubles until the two agree within
+// the target or the cap is reached. So the value shown has always been
+// compared with a sum that saw F only to half the height in frequency, and
+// with the check set, which sees other nodes and another aliasing. Its
+// estimate is the larger of the two disagreements, never below the rounding
+// floor eps * e^(gamma t)/T' * sum |a_k|.
+//
+// A reference (the damped FFT and its error band at the same t, an
+// independent method) catches what both sets miss together, such as a
+// resonance above every node: a point that differs from its reference by more
+// than both estimates makes its whole band suspect. Points that miss the
+// target or their reference are summed again with shorter bands and more
+// terms; what still misses is flagged, never shown as accurate.
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -19,7 +30,8 @@
 namespace lapdesk {
 
 struct AccurateParameters {
-    int M = 32;  // 2M+1 values of F per band and parameter set
+    int M = 32;          // first depth of a band's primary fraction (2M+1 values)
+    int maxM = 256;      // cap on that depth: at most 4*maxM+1 values per band
     // Aimed discretisation error. 1e-14 rather than 1e-13: a program such as
     // Sqrt(p+0.5)-Sqrt(p+0.25) loses digits to cancellation in every value,
     // and the smaller tol moves the lines so that it still ends near 1e-11.
@@ -27,9 +39,17 @@ struct AccurateParameters {
     double alpha = 0.0;      // F is taken as analytic for Re s > alpha
     double bandRatio = 4.0;  // a band runs from t0 to bandRatio * t0
     double target = 1e-10;   // estimate aimed at, relative to max(max |f|, 1)
+    // Im s of the highest resonance of F known beforehand (0: none); every
+    // sum takes F at least that high.
+    double resonance = 0.0;
 };
 
-enum class PointState { Converged, NotConverged, NotApplicable };
+enum class PointState {
+    Converged,     // the estimate meets the target and the reference agrees
+    NotConverged,  // the estimate stayed above the target after every retry
+    Disagrees,     // differs from its reference by more than both estimates
+    NotApplicable  // F failed at a node of every sum that covered the point
+};
 
 struct AccuratePoint {
     double t = 0.0;
@@ -38,6 +58,13 @@ struct AccuratePoint {
     PointState state = PointState::NotApplicable;
 };
 
+// An independent value of f at a requested t and a bound on its error.
+struct ReferencePoint {
+    double value = 0.0;
+    double bound = 0.0;
+};
+using References = std::vector<std::optional<ReferencePoint>>;  // one per time, or empty
+
 struct AccurateResult {
     std::vector<AccuratePoint> points;  // one per requested t, in order
     std::int64_t evaluations = 0;       // values of F asked for
@@ -45,8 +72,10 @@ struct AccurateResult {
     bool stopped = false;               // F asked to stop; the rest is not applicable
 };
 
-// times must be greater than 0 and ascending.
+// times must be greater than 0 and ascending; references, when not empty,
+// has one entry per time.
 AccurateResult InvertAccurately(const LaplaceFunction& f, std::span<const double> times,
-                                const AccurateParameters& parameters = {});
+                                const AccurateParameters& parameters = {},
+                                const References& references = {});
 
 }  // namespace lapdesk

@@ -87,10 +87,20 @@ FftErrorBand EstimateFftError(const TransformDriver& result, const LaplaceFuncti
         if (n + 1 < c.N) term = std::max(term, std::abs(y[n + 1] - points.Y(n / 2 + 1)));
         return term;
     };
-    out.band.resize(static_cast<std::size_t>(c.N));
+    std::vector<double> local(static_cast<std::size_t>(c.N));
     for (int n = 0; n < c.N; ++n) {
         const double dampingTerm = std::abs(y[n] - damped.Y(n)) / 0.9;
-        out.band[n] = 1.5 * (dampingTerm + 4.0 / 3.0 * pointTerm(n));
+        local[n] = 1.5 * (dampingTerm + 4.0 / 3.0 * pointTerm(n));
+    }
+    // The differences change sign where the error oscillates (f rings, or
+    // rings after a jump) and can pass through 0 at a point whose error is
+    // not 0: each point takes the largest of its neighbours within T/128.
+    const int reach = std::max(1, c.N / 128);
+    out.band.resize(static_cast<std::size_t>(c.N));
+    for (int n = 0; n < c.N; ++n) {
+        const auto first = local.begin() + std::max(0, n - reach);
+        const auto last = local.begin() + std::min<int>(c.N, n + reach + 1);
+        out.band[n] = *std::max_element(first, last);
     }
     out.ok = true;
     return out;

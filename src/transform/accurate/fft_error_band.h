@@ -1,7 +1,8 @@
 // The error band of the damped FFT: the same method run twice more, once with
 // the damping raised by ln 10 and once with twice the points over the same T,
 // and per result point
-//   band = 1.5 * (|y(g0) - y(g0 + ln 10)| / 0.9 + 4/3 * |y(N) - y(2N)|).
+//   band = 1.5 * (|y(g0) - y(g0 + ln 10)| / 0.9 + 4/3 * |y(N) - y(2N)|),
+// widened to the largest value within T/128 of the point.
 // The 2N run shares its first N/2 + 1 sample points with the result's own
 // run, so those values of F are reused. When N is already the largest the
 // window offers, twice N cannot run: the point-count term compares y(N) with

@@ -7,7 +7,7 @@ AccuracyLayers MakeAccuracyLayers(const TransformDriver& fft, const AccuracyRepo
     const Conditions c = fft.GetConditions();
     const std::vector<double>& y = fft.Store()[kResult].Values;
     layers.unreliableStart = {0.0, kUnreliableFirstSteps * c.DeltaT()};
-    layers.unreliableEnd = {0.8 * c.T, c.T};
+    layers.unreliableEnd = {kReliableFraction * c.T, c.T};
     if (report.band && report.band->ok) {
         const std::vector<double>& band = report.band->band;
         for (int k = 0; k < c.N; ++k) {

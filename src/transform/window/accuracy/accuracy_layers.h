@@ -9,10 +9,6 @@
 
 namespace lapdesk {
 
-// The first points of the record ring around the jump f makes at t = 0
-// (the FFT gives half of f(0+) there): t below this many steps is shaded.
-inline constexpr int kUnreliableFirstSteps = 4;
-
 struct AccuracyLayers {
     Curve bandOutline;  // empty without a band
     AxisRange unreliableStart;
