@@ -83,11 +83,7 @@ CaseResult RunCase(const Case& c, int n) {
         out.fft.error = std::max(out.fft.error, error);
         ++out.fft.points;
         if (std::max(band, 1e-12 * scale) >= std::max(error, 1e-12 * scale)) ++out.fft.covered;
-        if (!fftFlagged && error > std::max(3 * band, 1e-6 * scale)) {
-            ++out.fft.silent;
-            if (std::getenv("DEBUG_CASE"))
-                std::printf("%s fft k=%d t=%g err=%.2e band=%.2e\n", c.name.c_str(), k, t, error, band);
-        }
+        if (!fftFlagged && error > std::max(3 * band, 1e-6 * scale)) ++out.fft.silent;
     }
     for (const AccuratePoint& p : report.accurate->points) {
         if (p.state != PointState::Converged) {
@@ -95,8 +91,6 @@ CaseResult RunCase(const Case& c, int n) {
             continue;
         }
         const double error = std::abs(p.value - c.f(p.t));
-        if (std::getenv("DEBUG_CASE") && c.name == std::getenv("DEBUG_CASE") && error > p.estimate)
-            std::printf("t=%g v=%.15g err=%.2e est=%.2e\n", p.t, p.value, error, p.estimate);
         out.accurate.error = std::max(out.accurate.error, error);
         if (error > 1e-6 * scale) ++out.accurate.silent;
         if (error <= 1e-12 * scale) continue;

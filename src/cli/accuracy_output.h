@@ -1,5 +1,6 @@
-// The accuracy features on the command line: one "warning:" line per finding
-// on standard error, and the accurate inversion's table as CSV.
+// The accuracy features on the command line: the summary line of the
+// result's estimated error and one "warning:" line per finding on standard
+// error, and the accurate inversion's table as CSV.
 #pragma once
 
 #include <string>
@@ -8,10 +9,12 @@
 
 namespace lapdesk::cli {
 
-void PrintAccuracyWarnings(const AccuracyReport& report, const Conditions& conditions);
+// Prints the summary and the warnings; returns how many warnings.
+int PrintAccuracyReport(const AccuracyReport& report, const TransformDriver& fft);
 
-// "t,y,error" and one row per point where the accurate inversion applied,
-// shortest round-trip numbers, LF line ends.
+// "t,y,error,status", one row per point, shortest round-trip numbers, LF
+// line ends. status is ok, not_converged, fft_mismatch or not_applicable
+// (then y and error are empty); only ok rows are accurate to their error.
 std::string AccurateCsv(const AccurateResult& result);
 
 }  // namespace lapdesk::cli

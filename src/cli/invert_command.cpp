@@ -19,6 +19,9 @@ namespace lapdesk::cli {
 
 namespace {
 
+// --strict: the work was done, but a warning says the result needs care.
+constexpr int kExitWarning = 3;
+
 struct InvertOptions {
     std::string file;
     std::string n = "256";
@@ -27,6 +30,8 @@ struct InvertOptions {
     bool noHanning = false;
     std::string method = "fft";
     bool error = false;
+    bool fast = false;
+    bool strict = false;
     TransformOutputOptions outputs;
 };
 
@@ -72,22 +77,26 @@ int RunInvert(const InvertOptions& options) {
         std::cerr << "lapdesk-cli invert: " << made.reason << '\n';
         return 1;
     }
-    // The singularity check runs on every inversion; the band and the
-    // accurate inversion when asked for.
+    // The singularity check runs on every inversion, the band unless --fast
+    // (the accurate inversion always has it beside it).
     const AccuracyReport report = RunAccuracyChecksOnProgram(
-        driver, session, {options.error && !accurate, accurate, AccurateParameters{}});
-    PrintAccuracyWarnings(report, driver.GetConditions());
+        driver, session, {options.error || !options.fast, accurate, AccurateParameters{}});
+    const int warnings = PrintAccuracyReport(report, driver);
     if (report.stopped) {
         std::cerr << "プログラム実行中断\n";
         return 1;
     }
-    if (accurate) return WriteAccurateCsv(*report.accurate, options);
-    if (report.band && !report.band->ok) {
+    int status = 0;
+    if (accurate) {
+        status = WriteAccurateCsv(*report.accurate, options);
+    } else if (report.band && !report.band->ok) {
         std::cerr << "lapdesk-cli invert: " << report.band->reason << '\n';
         return 1;
+    } else {
+        status = WriteTransformOutputs(driver, program.text, options.outputs, "invert",
+                                       options.error ? &report.band->band : nullptr);
     }
-    return WriteTransformOutputs(driver, program.text, options.outputs, "invert",
-                                 report.band ? &report.band->band : nullptr);
+    return status == 0 && options.strict && warnings > 0 ? kExitWarning : status;
 }
 
 }  // namespace
@@ -113,6 +122,11 @@ void AddInvertCommand(CLI::App& app, int& exitStatus) {
         ->capture_default_str();
     invert->add_flag("--error", options->error,
                      "Add the FFT's error band to the CSV as a third column, error");
+    invert->add_flag("--fast", options->fast,
+                     "Skip the FFT's error band (two more runs) and the summary of the estimated "
+                     "error");
+    invert->add_flag("--strict", options->strict,
+                     "End with exit status 3 when any warning: line was printed");
     options->outputs.AddTo(*invert);
     invert->callback([options, &exitStatus] { exitStatus = RunInvert(*options); });
 }

@@ -1,6 +1,7 @@
 #include "transform/accurate/accuracy_messages.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 
 #include "transform/accurate/point_text.h"
@@ -9,11 +10,25 @@ namespace lapdesk {
 
 namespace {
 
-// D with three digits: enough to tell 0.6 from 60.
+// Three digits: enough to tell 0.6 from 60, and an error from ten times it.
 std::string ThreeDigits(double x) {
     char buffer[32];
     std::snprintf(buffer, sizeof buffer, "%.3g", x);
     return buffer;
+}
+
+// "n 点 (t = a〜b)" for the points in the given state, or "" when none.
+std::string PointsIn(const AccurateResult& result, PointState state) {
+    long count = 0;
+    double first = 0.0, last = 0.0;
+    for (const AccuratePoint& p : result.points) {
+        if (p.state != state) continue;
+        if (count++ == 0) first = p.t;
+        last = p.t;
+    }
+    if (count == 0) return "";
+    return std::to_string(count) + " 点 (t = " + RoundTripText(first) + "〜" + RoundTripText(last) +
+           ")";
 }
 
 long CountState(const AccurateResult& result, PointState state) {
@@ -21,20 +36,37 @@ long CountState(const AccurateResult& result, PointState state) {
                          [state](const AccuratePoint& p) { return p.state == state; });
 }
 
+// Whether the accurate result stands although the FFT's line is not fit.
+std::string AccurateBeside(const AccurateResult& result) {
+    const long flagged = static_cast<long>(result.points.size()) -
+                         CountState(result, PointState::Converged);
+    if (flagged == 0)
+        return "。高精度逆変換は自分の積分路で F を見るので影響を受けず、全点が自身の検査に合格"
+               "しています";
+    return "。高精度逆変換は自分の積分路で F を見ますが、" + std::to_string(flagged) +
+           " 点は自身の検査に合格せず、印を付けています";
+}
+
 }  // namespace
 
-std::string SingularityMessage(const SingularityCheck& check, const Conditions& c) {
-    switch (check.verdict) {
+std::string SingularityMessage(const AccuracyReport& report, const Conditions& c) {
+    const bool accurate = report.accurate.has_value();
+    switch (report.check.verdict) {
         case SingularityVerdict::Fine:
             return "";
-        case SingularityVerdict::Singular:
-            return "F は Re s = γ0/T = " + RoundTripText(c.Gamma()) +
-                   " の上かその右に特異点を持つようです (D = " + ThreeDigits(check.D) +
-                   ")。この f(t) は信用できません。γ0 を大きくしてください";
+        case SingularityVerdict::Singular: {
+            const std::string finding = "F は Re s = γ0/T = " + RoundTripText(c.Gamma()) +
+                                        " の上かその右に特異点を持つようです (D = " +
+                                        ThreeDigits(report.check.D) + ")。";
+            if (!accurate) return finding + "この f(t) は信用できません。γ0 を大きくしてください";
+            return finding + "減衰FFT の f(t) は信用できません" + AccurateBeside(*report.accurate);
+        }
         case SingularityVerdict::CannotVerify:
             break;
     }
-    return "特異点の有無を確かめられません: " + check.reason;
+    std::string text = "特異点の有無を確かめられません: " + report.check.reason;
+    if (accurate) text += "。高精度逆変換は減衰FFT と照合していません";
+    return text;
 }
 
 std::string NotApplicableMessage(const AccurateResult& result) {
@@ -47,9 +79,60 @@ std::string NotApplicableMessage(const AccurateResult& result) {
 }
 
 std::string NotConvergedMessage(const AccurateResult& result) {
-    const long count = CountState(result, PointState::NotConverged);
-    if (count == 0) return "";
-    return "高精度逆変換の " + std::to_string(count) + " 点は誤差の見積りが目標に届きません";
+    const std::string points = PointsIn(result, PointState::NotConverged);
+    if (points.empty()) return "";
+    return "高精度逆変換の " + points + " は誤差の見積りが目標に届きません";
+}
+
+std::string DisagreementMessage(const AccurateResult& result) {
+    const std::string points = PointsIn(result, PointState::Disagrees);
+    if (points.empty()) return "";
+    return "高精度逆変換の " + points +
+           " は減衰FFT とその誤差帯に合わないため、精度を保証できない点として印を付けました";
+}
+
+ErrorSummary SummariseFft(const TransformDriver& fft, const FftErrorBand& band) {
+    ErrorSummary summary;
+    if (!band.ok) return summary;
+    const Conditions c = fft.GetConditions();
+    const ReliablePart part = ReliablePartOf(c);
+    for (int n = part.first; n <= part.last; ++n) {
+        summary.largest = std::max(summary.largest, band.band[n]);
+        summary.maxAbs = std::max(summary.maxAbs, std::abs(fft.Store()[kResult].Values[n]));
+    }
+    summary.from = c.TimeAt(part.first);
+    summary.to = c.TimeAt(part.last);
+    summary.ok = std::isfinite(summary.largest) && std::isfinite(summary.maxAbs);
+    return summary;
+}
+
+ErrorSummary SummariseAccurate(const AccurateResult& result) {
+    ErrorSummary summary;
+    for (const AccuratePoint& p : result.points) {
+        if (p.state != PointState::Converged) continue;
+        if (!summary.ok) summary.from = p.t;
+        summary.ok = true;
+        summary.to = p.t;
+        summary.largest = std::max(summary.largest, p.estimate);
+        summary.maxAbs = std::max(summary.maxAbs, std::abs(p.value));
+    }
+    return summary;
+}
+
+std::string SummaryLine(const ErrorSummary& s, bool accurate) {
+    if (!s.ok) return "";
+    std::string text = std::string(accurate ? "高精度逆変換" : "減衰FFT ") + "の推定誤差: 最大 " +
+                       ThreeDigits(s.largest);
+    if (s.maxAbs > 0) text += " (max |f| = " + ThreeDigits(s.maxAbs) + " の " +
+                              ThreeDigits(100 * s.largest / s.maxAbs) + " %)";
+    return text + "、t = " + RoundTripText(s.from) + "〜" + RoundTripText(s.to);
+}
+
+std::string LargeErrorMessage(const ErrorSummary& s, bool accurate) {
+    if (!s.ok || s.largest <= kLargeErrorShare * s.maxAbs) return "";
+    return std::string(accurate ? "高精度逆変換" : "減衰FFT ") +
+           "の推定誤差が max |f| の 1 % を超えています" +
+           (accurate ? std::string() : std::string("。高精度逆変換で確かめてください"));
 }
 
 }  // namespace lapdesk

@@ -1,5 +1,7 @@
 // What the accuracy features found, as the texts the window and the
-// command-line tool show. Each is empty when there is nothing to say.
+// command-line tool show. Each is empty when there is nothing to say. Every
+// text names the result it is about (the damped FFT's or the accurate one)
+// and advises only what helps that result.
 #pragma once
 
 #include <string>
@@ -8,14 +10,38 @@
 
 namespace lapdesk {
 
-// The singularity check's finding: a singularity on or right of the line,
-// or that it could not verify.
-std::string SingularityMessage(const SingularityCheck& check, const Conditions& conditions);
+// The singularity check's finding about the FFT result: a singularity on or
+// right of the line, or that it could not verify. With the accurate result
+// beside it, also whether that one is affected (it sums on a line of its own).
+std::string SingularityMessage(const AccuracyReport& report, const Conditions& conditions);
 
 // Points of the accurate inversion left out, with the first reason.
 std::string NotApplicableMessage(const AccurateResult& result);
 
-// Points whose estimate stayed above the target after every retry.
+// Points flagged because their estimate stayed above the target, and points
+// flagged because they contradict the FFT and its band, with their t range.
 std::string NotConvergedMessage(const AccurateResult& result);
+std::string DisagreementMessage(const AccurateResult& result);
+
+// The largest estimated error of a result, and of max |f|, over the part
+// the summary speaks of.
+struct ErrorSummary {
+    bool ok = false;  // false: nothing to summarise
+    double largest = 0.0;
+    double maxAbs = 0.0;
+    double from = 0.0;  // the t range looked at
+    double to = 0.0;
+};
+
+// The FFT's band over its reliable part; the accurate estimates over its
+// converged points.
+ErrorSummary SummariseFft(const TransformDriver& fft, const FftErrorBand& band);
+ErrorSummary SummariseAccurate(const AccurateResult& result);
+
+// One line for the user: "減衰FFT の推定誤差: …" or "高精度逆変換の推定誤差: …".
+std::string SummaryLine(const ErrorSummary& summary, bool accurate);
+// Above this share of max |f| the summary comes with a warning.
+inline constexpr double kLargeErrorShare = 0.01;
+std::string LargeErrorMessage(const ErrorSummary& summary, bool accurate);
 
 }  // namespace lapdesk

@@ -27,22 +27,19 @@ constexpr double kEstimateSafety = 2.0;
 // at a few points in a hundred, by up to a few times.
 constexpr double kReferenceSafety = 4.0;
 
-// How a band is summed: its length ratio, T' = factor * t1 for the primary
-// and the check set, and the primary fraction's first depth.
+// How a band is summed: its length ratio and T' = factor * t1 for the
+// primary and the check set.
 struct Layout {
     double ratio;
     double primaryFactor;
     double checkFactor;
-    int firstM;
 };
 
 // The first layout is the plain one; the others, for the points it left
-// short, use shorter bands (fewer oscillations of f per period) and start
-// deeper.
+// short, use shorter bands (fewer oscillations of f per period, less growth
+// of e^(gamma t)).
 std::vector<Layout> Layouts(const AccurateParameters& p) {
-    return {{p.bandRatio, 2.0, 2.5, p.M},
-            {2.0, 1.5, 1.9, std::min(2 * p.M, p.maxM)},
-            {1.5, 1.25, 1.6, std::min(4 * p.M, p.maxM)}};
+    return {{p.bandRatio, 2.0, 2.5}, {2.0, 1.5, 1.9}, {1.5, 1.25, 1.6}};
 }
 
 // Values a series may take before a band gives up: a sum whose resonances
@@ -129,23 +126,23 @@ class Inverter {
 
   private:
     // Doubles the primary depth until every point of the band meets the
-    // target and its reference, or the cap is reached; every round's
-    // candidates compete for the best.
+    // target and its reference, the estimate stops shrinking, or the cap is
+    // reached; every round's candidates compete for the best.
     void SumBand(const std::vector<std::size_t>& band, const Layout& layout,
                  std::vector<Candidate>& best) {
         const double t1 = result_.points[band.back()].t;
         const std::string where = BandText(++bandCount_, result_.points[band.front()].t, t1);
         Series primary = MakeSeries(layout.primaryFactor * t1);
         Series check = MakeSeries(layout.checkFactor * t1);
-        for (int m = layout.firstM; m <= p_.maxM; m *= 2) {
+        double worstBefore = kInfinity;
+        for (int m = p_.M; m <= p_.maxM; m *= 2) {
             if (!Grow(primary, 2 * m, where) || !Grow(check, m, where)) return;
             std::vector<Candidate> round;
-            bool settled = true;
+            double worst = 0.0;  // the largest estimate, in targets
             bool agrees = true;
             for (const std::size_t index : band) {
                 const Candidate c = Sum(primary, check, result_.points[index].t, m);
-                const double bar = p_.target * std::max(scale, std::abs(c.value));
-                settled = settled && c.estimate <= bar;
+                worst = std::max(worst, c.estimate / (p_.target * std::max(scale, std::abs(c.value))));
                 agrees = agrees && Agrees(index, c);
                 round.push_back(c);
             }
@@ -154,7 +151,11 @@ class Inverter {
                 if (round[j].BetterThan(best[band[j]])) best[band[j]] = round[j];
             }
             const bool brokeDown = primary.fraction && !primary.fraction->ok();
-            if ((settled && agrees) || brokeDown) return;
+            // More terms help while they shrink the estimate; when they stop
+            // doing so, what is left is the layout's (shorter bands may do).
+            const bool stalled = agrees && worst > 0.5 * worstBefore;
+            if ((worst <= 1.0 && agrees) || brokeDown || stalled) return;
+            worstBefore = worst;
         }
     }
 

@@ -22,8 +22,9 @@ AccuracyLayers MakeAccuracyLayers(const TransformDriver& fft, const AccuracyRepo
     if (report.accurate) {
         for (const AccuratePoint& p : report.accurate->points) {
             if (p.state == PointState::NotApplicable) continue;
-            layers.accurate.x.push_back(p.t);
-            layers.accurate.y.push_back(p.value);
+            Curve& curve = p.state == PointState::Converged ? layers.accurate : layers.flagged;
+            curve.x.push_back(p.t);
+            curve.y.push_back(p.value);
         }
     }
     return layers;

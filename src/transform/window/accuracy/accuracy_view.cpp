@@ -23,6 +23,9 @@ QColor BandColour() {
     c.setAlpha(55);
     return c;
 }
+QColor FlaggedColour() {
+    return QColor(0xd6, 0x1f, 0x1f);
+}
 QColor UnreliableColour() {
     return QColor(0x80, 0x80, 0x80, 60);
 }
@@ -100,11 +103,20 @@ QWidget* AccuracyView::BuildPanel() {
         LegendRow("UnreliableLegend", UnreliableColour(), QStringLiteral("信頼できない範囲"),
                   QStringLiteral("t = 0 付近と t ≥ 0.8T: 減衰FFTの結果を信頼できない範囲")),
         3, 0, 1, 2);
+    grid->addWidget(LegendRow("FlaggedLegend", FlaggedColour(), QStringLiteral("未保証の点 (×)"),
+                              QStringLiteral("高精度逆変換のうち、誤差の見積りが目標に届かないか、"
+                                             "減衰FFTとその誤差帯に合わない点")),
+                    4, 0, 1, 2);
+    summary_ = new QLabel;
+    summary_->setObjectName(QStringLiteral("AccuracySummary"));
+    summary_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    summary_->setWordWrap(true);
+    grid->addWidget(summary_, 5, 0, 1, 2);
     readout_ = new QLabel;
     readout_->setObjectName(QStringLiteral("AccuracyReadout"));
     readout_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     readout_->setWordWrap(true);
-    grid->addWidget(readout_, 4, 0, 1, 2);
+    grid->addWidget(readout_, 6, 0, 1, 2);
     return panel;
 }
 
@@ -121,24 +133,43 @@ void AccuracyView::RunAfterProgram(const TransformDriver& fft, Interpreter& sess
                     : QStringLiteral("誤差帯と特異点を確認中"));
     report_ = RunAccuracyChecksOnProgram(fft, session, {true, accurate, AccurateParameters{}});
     madeFor_ = fft.GetConditions();
-    QStringList lines;
-    const std::string singular = SingularityMessage(report_->check, fft.GetConditions());
-    if (!singular.empty()) lines << QStringLiteral("⚠ ") + QString::fromStdString(singular);
-    if (report_->band && !report_->band->ok && !report_->band->stopped)
-        lines << QString::fromStdString(report_->band->reason);
-    if (report_->accurate) {
-        for (const std::string& text :
-             {NotApplicableMessage(*report_->accurate), NotConvergedMessage(*report_->accurate)}) {
-            if (!text.empty()) lines << QString::fromStdString(text);
-        }
-    }
-    if (!lines.isEmpty()) ShowBanner(lines.join(QLatin1Char('\n')));
+    ShowFindings(fft);
     status(report_->stopped ? QStringLiteral("プログラム実行中断") : QString());
+}
+
+// The summary of each result's estimated error beside the plot, and what
+// needs the user's care in the banner over it.
+void AccuracyView::ShowFindings(const TransformDriver& fft) {
+    const AccuracyReport& report = *report_;
+    QStringList summaries;
+    QStringList lines;
+    const auto add = [](QStringList& list, const std::string& text) {
+        if (!text.empty()) list << QString::fromStdString(text);
+    };
+    const std::string singular = SingularityMessage(report, fft.GetConditions());
+    if (!singular.empty()) lines << QStringLiteral("⚠ ") + QString::fromStdString(singular);
+    if (report.band && !report.band->ok && !report.band->stopped) add(lines, report.band->reason);
+    if (report.band) {
+        const ErrorSummary summary = SummariseFft(fft, *report.band);
+        add(summaries, SummaryLine(summary, false));
+        add(lines, LargeErrorMessage(summary, false));
+    }
+    if (report.accurate) {
+        const ErrorSummary summary = SummariseAccurate(*report.accurate);
+        add(summaries, SummaryLine(summary, true));
+        add(lines, LargeErrorMessage(summary, true));
+        add(lines, NotApplicableMessage(*report.accurate));
+        add(lines, NotConvergedMessage(*report.accurate));
+        add(lines, DisagreementMessage(*report.accurate));
+    }
+    summary_->setText(summaries.join(QLatin1Char('\n')));
+    if (!lines.isEmpty()) ShowBanner(lines.join(QLatin1Char('\n')));
 }
 
 void AccuracyView::Forget() {
     report_.reset();
     banner_->hide();
+    summary_->clear();
     readout_->clear();
 }
 
@@ -174,6 +205,11 @@ void AccuracyView::Decorate(const TransformDriver& fft) {
         pen.setWidthF(1.5);
         accurate->setPen(pen);
     }
+    if (!layers.flagged.x.empty()) {
+        QCPCurve* flagged = AddCurve(scrn_, layers.flagged, QStringLiteral("未保証の点"));
+        flagged->setLineStyle(QCPCurve::lsNone);
+        flagged->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssCross, FlaggedColour(), 6));
+    }
     scrn_->replot();
 }
 
@@ -190,9 +226,11 @@ void AccuracyView::ShowReadout(const TransformDriver& fft, double t) {
     if (report_->accurate && n >= 1) {
         const AccuratePoint& p = report_->accurate->points[n - 1];
         if (p.state != PointState::NotApplicable) {
-            parts << QStringLiteral("高精度 y= %1 ±%2")
+            parts << QStringLiteral("高精度 y= %1 ±%2%3")
                          .arg(p.value, 0, 'g', 12)
-                         .arg(p.estimate, 0, 'g', 2);
+                         .arg(p.estimate, 0, 'g', 2)
+                         .arg(p.state == PointState::Converged ? QString()
+                                                                : QStringLiteral(" (未保証)"));
         }
     }
     readout_->setText(parts.join(QLatin1Char('\n')));

@@ -50,11 +50,13 @@ class AccuracyView : public QObject {
   private:
     QWidget* BuildPanel();
     void ShowBanner(const QString& text);
+    void ShowFindings(const TransformDriver& fft);
     bool Shows(const TransformDriver& fft) const;
 
     ScrnPlot* scrn_;
     QWidget* panel_ = nullptr;
     QComboBox* method_ = nullptr;
+    QLabel* summary_ = nullptr;
     QLabel* readout_ = nullptr;
     QLabel* banner_ = nullptr;
     std::optional<AccuracyReport> report_;
