@@ -1,14 +1,8 @@
 // Prints how both methods do on the Davies-Martin programs and on the
-// project's own Laplace pairs, each run through the real interpreter, with
-// the FFT, its band and the accurate inversion made exactly as "実行" and
-// `lapdesk-cli invert --method dehoog` make them. Per case: the FFT's
-// largest error over its reliable part, how often its band covers the error
-// and its silent points (error above 3 times the band and above 1e-6 of the
-// scale, while the singularity check passed); the accurate inversion's
-// largest error, how often its estimate covers the error (points whose error
-// exceeds 1e-12 of the scale), its silent points (shown as accurate, yet off
-// by more than 1e-6 of the scale), the points it flagged, the values of F it
-// asked for, and the singularity check's D. The scale is max(max |f|, 1).
+// project's own Laplace pairs (scored as pair_scores.h says): per case the
+// FFT's largest error, its band's coverage and silent points, the accurate
+// inversion's largest error, its estimate's coverage, silent and flagged
+// points, the values of F it asked for, and the singularity check's D.
 //
 //   accuracy_report [DAVIES_MARTIN_FOLDER] [N ...]     (N = 256 by default)
 #include <cmath>
@@ -19,86 +13,13 @@
 
 #include "davies_martin.h"
 #include "fileio/text_file.h"
-#include "interp/recording_view.h"
 #include "laplace_pairs.h"
-#include "transform/program/program_function.h"
-#include "transform/program/program_sampling.h"
-#include "values/number_text.h"
+#include "pair_scores.h"
 
 namespace {
 
 using namespace lapdesk;
-
-struct Case {
-    std::string name;
-    std::string program;
-    double T;
-    double gamma0;
-    double (*f)(double);
-};
-
-struct Tally {
-    int points = 0, covered = 0, silent = 0, flagged = 0;
-    double error = 0.0;
-    void Merge(const Tally& o) {
-        points += o.points;
-        covered += o.covered;
-        silent += o.silent;
-        flagged += o.flagged;
-    }
-    double Coverage() const { return points ? 100.0 * covered / points : 100.0; }
-};
-
-struct CaseResult {
-    Tally fft, accurate;
-    long long evaluations = 0;
-    double D = 0.0;
-    bool made = false;
-};
-
-CaseResult RunCase(const Case& c, int n) {
-    CaseResult out;
-    RecordingView view;
-    Interpreter session(view);
-    session.SetProgramText(c.program);
-    TransformDriver driver;
-    driver.SetWordNumber(std::to_string(n));
-    driver.SetTend(DoubleToText(c.T));
-    driver.SetGanma(DoubleToText(c.gamma0));
-    if (!TesmorDataSet(driver, session)) return out;
-    out.made = true;
-    const AccuracyReport report = RunAccuracyChecksOnProgram(driver, session, {true, true, {}});
-    out.D = report.check.D;
-    out.evaluations = report.accurate->evaluations;
-    const Conditions cond = driver.GetConditions();
-    const ReliablePart part = ReliablePartOf(cond);
-    double scale = 1.0;
-    for (int k = 1; k < cond.N; ++k)
-        scale = std::max(scale, std::abs(c.f(cond.TimeAt(k))));
-    const bool fftFlagged = report.check.verdict != SingularityVerdict::Fine;
-    for (int k = part.first; k <= part.last; ++k) {
-        const double t = cond.TimeAt(k);
-        const double error = std::abs(driver.Store()[kResult].Values[k] - c.f(t));
-        const double band = report.band->band[k];
-        out.fft.error = std::max(out.fft.error, error);
-        ++out.fft.points;
-        if (std::max(band, 1e-12 * scale) >= std::max(error, 1e-12 * scale)) ++out.fft.covered;
-        if (!fftFlagged && error > std::max(3 * band, 1e-6 * scale)) ++out.fft.silent;
-    }
-    for (const AccuratePoint& p : report.accurate->points) {
-        if (p.state != PointState::Converged) {
-            ++out.accurate.flagged;
-            continue;
-        }
-        const double error = std::abs(p.value - c.f(p.t));
-        out.accurate.error = std::max(out.accurate.error, error);
-        if (error > 1e-6 * scale) ++out.accurate.silent;
-        if (error <= 1e-12 * scale) continue;
-        ++out.accurate.points;
-        if (p.estimate >= error) ++out.accurate.covered;
-    }
-    return out;
-}
+using namespace lapdesk::pair_scores;
 
 std::vector<Case> Cases(const std::string& folder) {
     std::vector<Case> cases;
@@ -141,10 +62,11 @@ int main(int argc, char** argv) {
                         r.accurate.error, r.accurate.Coverage(), r.accurate.silent,
                         r.accurate.flagged, r.evaluations, r.D);
         }
-        std::printf("all: fft band covers %.1f%%, %d silent; accurate estimate covers %.1f%%, "
-                    "%d silent, %d flagged\n\n",
-                    fftAll.Coverage(), fftAll.silent, accurateAll.Coverage(), accurateAll.silent,
-                    accurateAll.flagged);
+        std::printf(
+            "all: fft band covers %.1f%%, %d silent; accurate estimate covers %.1f%%, "
+            "%d silent, %d flagged\n\n",
+            fftAll.Coverage(), fftAll.silent, accurateAll.Coverage(), accurateAll.silent,
+            accurateAll.flagged);
     }
     return 0;
 }

@@ -59,7 +59,8 @@ inline const std::vector<Pair>& Pairs() {
          [](double t) { return std::exp(-1 / t) / std::sqrt(M_PI * t); }},
         {"diffusion-tail-T50", "1/(Sqrt(p)*(Sqrt(p)+1))", 50, 5,
          [](double t) { return std::exp(t) * std::erfc(std::sqrt(t)); }},
-        {"bessel-j0-2t", "1/Sqrt(p^2+4)", 5, 5, [](double t) { return std::cyl_bessel_j(0.0, 2 * t); }},
+        {"bessel-j0-2t", "1/Sqrt(p^2+4)", 5, 5,
+         [](double t) { return std::cyl_bessel_j(0.0, 2 * t); }},
         {"bessel-j1-over-t", "Sqrt(p^2+1)-p", 5, 5,
          [](double t) { return std::cyl_bessel_j(1.0, t) / t; }},
         {"bessel-i0-T50", "1/Sqrt(p*(p+2))", 50, 5,
@@ -73,13 +74,15 @@ inline const std::vector<Pair>& Pairs() {
         {"short-decay-T0.01", "1/(p+100)", 0.01, 5, [](double t) { return std::exp(-100 * t); }},
         {"short-sine-T0.01", "1000/(p^2+1000000)", 0.01, 5,
          [](double t) { return std::sin(1000 * t); }},
-        {"short-inverse-sqrt", "1/Sqrt(p)", 0.01, 5, [](double t) { return 1 / std::sqrt(M_PI * t); }},
+        {"short-inverse-sqrt", "1/Sqrt(p)", 0.01, 5,
+         [](double t) { return 1 / std::sqrt(M_PI * t); }},
         {"poly-t3", "6/(p+1)^4", 5, 5, [](double t) { return t * t * t * std::exp(-t); }},
         {"fourth-order-step", "1/(p*(p+1)*(p+2)*(p+3))", 5, 5,
          [](double t) {
              return 1.0 / 6 - std::exp(-t) / 2 + std::exp(-2 * t) / 2 - std::exp(-3 * t) / 6;
          }},
-        {"critical-step", "1/(p*(p+1)^2)", 5, 5, [](double t) { return 1 - std::exp(-t) * (1 + t); }},
+        {"critical-step", "1/(p*(p+1)^2)", 5, 5,
+         [](double t) { return 1 - std::exp(-t) * (1 + t); }},
     };
     return pairs;
 }

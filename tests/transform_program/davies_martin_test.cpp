@@ -4,6 +4,8 @@
 // singularity check on singular and legitimate programs (A5).
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <map>
 #include <string>
 #include <vector>
@@ -69,6 +71,7 @@ class DaviesMartin : public testing::Test {
 TEST_F(DaviesMartin, A1A2AccurateLateAndEarlyOnFifteenCases) {
     int good = 0;
     int goodEarly = 0;
+    std::vector<std::int64_t> evaluations;
     for (const dm::Case& c : dm::Cases()) {
         const CaseRun& run = RunOf(c);
         ASSERT_TRUE(run.fftMade) << c.file;
@@ -77,12 +80,16 @@ TEST_F(DaviesMartin, A1A2AccurateLateAndEarlyOnFifteenCases) {
         if (run.accurate.early <= 1e-10) ++goodEarly;
         if (!dm::IsSquareWave(c)) {
             EXPECT_LE(run.accurate.error, 1e-11) << c.file;
-            // Two cross-checked parameter sets of 65 values on four bands.
-            EXPECT_LE(run.report.accurate->evaluations, 1200) << c.file;
+            EXPECT_LE(run.report.accurate->evaluations, 5000) << c.file;
+            evaluations.push_back(run.report.accurate->evaluations);
         }
     }
     EXPECT_GE(good, 15);
     EXPECT_GE(goodEarly, 15);
+    // Four bands of 129 + 65 values when the first sums settle, as they do
+    // on most of these; more where a band is summed again.
+    std::nth_element(evaluations.begin(), evaluations.begin() + 7, evaluations.end());
+    EXPECT_LE(evaluations[7], 4 * (129 + 65));
 }
 
 // The accurate estimate (A3) and the FFT's band (A4, for at most twice the

@@ -1,7 +1,9 @@
 // Saves PNG pictures of the transform window's accuracy features: the
 // accurate curve over the FFT's result with its band and the unreliable ends
-// shaded (the step 1/p with Hanning off, where the FFT rings), and the warning
-// banner for 1/(p-2), whose FFT result is nonsense.
+// shaded (the step 1/p with Hanning off, where the FFT rings), the warning
+// banner for 1/(p-2), whose FFT result is nonsense, the ringing sin 20t with
+// both summaries, and the square wave, whose accurate points near the jumps
+// are flagged.
 // Usage: accuracy_screenshots <folder>
 #include <QApplication>
 #include <QCheckBox>
@@ -61,5 +63,10 @@ int main(int argc, char** argv) {
     Save(form, folder, "accuracy-1-both-curves");
     Run(form, QStringLiteral("' f(t) = exp(2t): a pole right of the line\nReturn 1/(p-2)\nEnd"));
     Save(form, folder, "accuracy-2-singularity-warning");
+    Child<QCheckBox>(form, "HaningCheck")->click();
+    Run(form, QStringLiteral("' f(t) = sin 20t\nReturn 20/(p^2+400)\nEnd"));
+    Save(form, folder, "accuracy-3-ringing");
+    Run(form, QStringLiteral("' square wave\nReturn 1/(p*(1+Exp(-p)))\nEnd"));
+    Save(form, folder, "accuracy-4-flagged-points");
     return 0;
 }

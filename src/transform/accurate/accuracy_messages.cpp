@@ -38,8 +38,8 @@ long CountState(const AccurateResult& result, PointState state) {
 
 // Whether the accurate result stands although the FFT's line is not fit.
 std::string AccurateBeside(const AccurateResult& result) {
-    const long flagged = static_cast<long>(result.points.size()) -
-                         CountState(result, PointState::Converged);
+    const long flagged =
+        static_cast<long>(result.points.size()) - CountState(result, PointState::Converged);
     if (flagged == 0)
         return "。高精度逆変換は自分の積分路で F を見るので影響を受けず、全点が自身の検査に合格"
                "しています";
@@ -55,9 +55,9 @@ std::string SingularityMessage(const AccuracyReport& report, const Conditions& c
         case SingularityVerdict::Fine:
             return "";
         case SingularityVerdict::Singular: {
-            const std::string finding = "F は Re s = γ0/T = " + RoundTripText(c.Gamma()) +
-                                        " の上かその右に特異点を持つようです (D = " +
-                                        ThreeDigits(report.check.D) + ")。";
+            const std::string finding =
+                "F は Re s = γ0/T = " + RoundTripText(c.Gamma()) +
+                " の上かその右に特異点を持つようです (D = " + ThreeDigits(report.check.D) + ")。";
             if (!accurate) return finding + "この f(t) は信用できません。γ0 を大きくしてください";
             return finding + "減衰FFT の f(t) は信用できません" + AccurateBeside(*report.accurate);
         }
@@ -123,8 +123,9 @@ std::string SummaryLine(const ErrorSummary& s, bool accurate) {
     if (!s.ok) return "";
     std::string text = std::string(accurate ? "高精度逆変換" : "減衰FFT ") + "の推定誤差: 最大 " +
                        ThreeDigits(s.largest);
-    if (s.maxAbs > 0) text += " (max |f| = " + ThreeDigits(s.maxAbs) + " の " +
-                              ThreeDigits(100 * s.largest / s.maxAbs) + " %)";
+    if (s.maxAbs > 0)
+        text += " (max |f| = " + ThreeDigits(s.maxAbs) + " の " +
+                ThreeDigits(100 * s.largest / s.maxAbs) + " %)";
     return text + "、t = " + RoundTripText(s.from) + "〜" + RoundTripText(s.to);
 }
 

@@ -55,8 +55,8 @@ struct Series {
     double period = 0.0;  // T'
     double gamma = 0.0;
     std::vector<Cx> a;
-    double sumAbs = 0.0;  // sum of |a_k|, for the rounding floor
-    int shift = 0;        // terms summed directly before the fraction
+    double sumAbs = 0.0;                     // sum of |a_k|, for the rounding floor
+    int shift = 0;                           // terms summed directly before the fraction
     std::optional<DeHoogFraction> fraction;  // on a[shift..]; none when all 0
 
     double Scale(double t) const { return std::exp(gamma * t) / period; }
@@ -76,7 +76,8 @@ struct Series {
     // Where the fraction must start: a little past the last peak of |a_k|.
     int ShiftNeeded() const {
         std::vector<double> magnitudes(a.size());
-        std::transform(a.begin(), a.end(), magnitudes.begin(), [](const Cx& x) { return std::abs(x); });
+        std::transform(a.begin(), a.end(), magnitudes.begin(),
+                       [](const Cx& x) { return std::abs(x); });
         const int peak = static_cast<int>(LastPeak(magnitudes));
         return peak == 0 ? 0 : peak + peak / 2 + 8;
     }
@@ -142,7 +143,8 @@ class Inverter {
             bool agrees = true;
             for (const std::size_t index : band) {
                 const Candidate c = Sum(primary, check, result_.points[index].t, m);
-                worst = std::max(worst, c.estimate / (p_.target * std::max(scale, std::abs(c.value))));
+                worst =
+                    std::max(worst, c.estimate / (p_.target * std::max(scale, std::abs(c.value))));
                 agrees = agrees && Agrees(index, c);
                 round.push_back(c);
             }

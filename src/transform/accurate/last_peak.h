@@ -17,8 +17,7 @@ inline std::size_t LastPeak(std::span<const double> magnitudes) {
     for (std::size_t k = 1; k + 1 < magnitudes.size(); ++k) {
         const double here = magnitudes[k];
         lowest = std::min(lowest, here);
-        if (here > magnitudes[k - 1] && here >= magnitudes[k + 1] && here > 1.01 * lowest)
-            peak = k;
+        if (here > magnitudes[k - 1] && here >= magnitudes[k + 1] && here > 1.01 * lowest) peak = k;
     }
     return peak;
 }

@@ -230,7 +230,7 @@ void AccuracyView::ShowReadout(const TransformDriver& fft, double t) {
                          .arg(p.value, 0, 'g', 12)
                          .arg(p.estimate, 0, 'g', 2)
                          .arg(p.state == PointState::Converged ? QString()
-                                                                : QStringLiteral(" (未保証)"));
+                                                               : QStringLiteral(" (未保証)"));
         }
     }
     readout_->setText(parts.join(QLatin1Char('\n')));
