@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cmath>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,11 @@ struct Pair {
 
     std::string Program() const { return std::string("Return ") + F + "\r\nEnd\r\n"; }
 };
+
+// Test names show the pair's name, not its bytes.
+inline void PrintTo(const Pair& pair, std::ostream* out) {
+    *out << pair.name;
+}
 
 inline double StepResponse(double t) {  // omega0 = 20, zeta = 0.05
     const double wd = std::sqrt(399.0);

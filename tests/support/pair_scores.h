@@ -45,6 +45,7 @@ struct CaseResult {
     long long evaluations = 0;
     double D = 0.0;
     bool made = false;
+    bool fftFlagged = false;  // the singularity check said the FFT result is not to be trusted
 };
 
 inline CaseResult RunCase(const Case& c, int n) {
@@ -67,6 +68,7 @@ inline CaseResult RunCase(const Case& c, int n) {
     for (int k = 1; k < cond.N; ++k)
         scale = std::max(scale, std::abs(c.f(cond.TimeAt(k))));
     const bool fftFlagged = report.check.verdict != SingularityVerdict::Fine;
+    out.fftFlagged = fftFlagged;
     for (int k = part.first; k <= part.last; ++k) {
         const double t = cond.TimeAt(k);
         const double error = std::abs(driver.Store()[kResult].Values[k] - c.f(t));

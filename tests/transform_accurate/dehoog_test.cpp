@@ -126,8 +126,9 @@ TEST(AccurateInversion, AResonanceAboveEveryNodeIsCaughtByTheReference) {
         references[i] = ReferencePoint{ringing.f(times[i]) + 1e-4, 1e-3};
     const AccurateResult r = InvertAccurately(ringing.F(), times, {}, references);
     for (const AccuratePoint& p : r.points) {
-        if (p.state == PointState::Converged)
+        if (p.state == PointState::Converged) {
             EXPECT_LT(std::abs(p.value - ringing.f(p.t)), 1e-9) << p.t;
+        }
     }
 }
 

@@ -26,7 +26,9 @@ TEST_P(LaplacePairs, NoSilentPointAtN256) {
     // Over the set the estimates cover 99 % of the points whose error is
     // above the rounding floor; the hardest pair here is J1(t)/t.
     EXPECT_GE(r.accurate.Coverage(), 80.0);
-    EXPECT_GE(r.fft.Coverage(), 80.0);
+    if (!r.fftFlagged) {
+        EXPECT_GE(r.fft.Coverage(), 80.0);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Set, LaplacePairs, testing::ValuesIn(laplace_pairs::Pairs()),

@@ -77,11 +77,12 @@ TEST_F(AccuracyTest, TheCsvExportHoldsBothMethods) {
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
-    EXPECT_EQ(lines.front(), QStringLiteral("t,fft,fft_error,accurate,accurate_error"));
+    EXPECT_EQ(lines.front(), QStringLiteral("t,fft,fft_error,accurate,accurate_error,accurate_ok"));
     ASSERT_GE(lines.size(), 257);
     EXPECT_TRUE(lines[1].startsWith(QStringLiteral("0,"))) << "t = 0 has no accurate value";
-    EXPECT_TRUE(lines[1].endsWith(QStringLiteral(",,"))) << lines[1].toStdString();
-    EXPECT_EQ(lines[2].count(QLatin1Char(',')), 4);
+    EXPECT_TRUE(lines[1].endsWith(QStringLiteral(",,,"))) << lines[1].toStdString();
+    EXPECT_EQ(lines[2].count(QLatin1Char(',')), 5);
+    EXPECT_TRUE(lines[2].endsWith(QStringLiteral(",1"))) << "vouched for";
     EXPECT_FALSE(lines[2].contains(QStringLiteral(",,"))) << lines[2].toStdString();
 }
 

@@ -89,6 +89,12 @@ struct Series {
     }
 };
 
+enum class Growth { Ok, Capped, Failed };
+
+Growth Worse(Growth a, Growth b) {
+    return std::max(a, b);
+}
+
 struct Candidate {
     double value = 0.0;
     double estimate = kInfinity;
@@ -137,7 +143,9 @@ class Inverter {
         Series check = MakeSeries(layout.checkFactor * t1);
         double worstBefore = kInfinity;
         for (int m = p_.M; m <= p_.maxM; m *= 2) {
-            if (!Grow(primary, 2 * m, where) || !Grow(check, m, where)) return;
+            Growth grown = Grow(primary, 2 * m, where);
+            if (grown != Growth::Failed) grown = Worse(grown, Grow(check, m, where));
+            if (grown == Growth::Failed) return;
             std::vector<Candidate> round;
             double worst = 0.0;  // the largest estimate, in targets
             bool agrees = true;
@@ -156,7 +164,7 @@ class Inverter {
             // More terms help while they shrink the estimate; when they stop
             // doing so, what is left is the layout's (shorter bands may do).
             const bool stalled = agrees && worst > 0.5 * worstBefore;
-            if ((worst <= 1.0 && agrees) || brokeDown || stalled) return;
+            if ((worst <= 1.0 && agrees) || brokeDown || stalled || grown == Growth::Capped) return;
             worstBefore = worst;
         }
     }
@@ -189,25 +197,32 @@ class Inverter {
     }
 
     // Takes F at the series' nodes until its fraction reaches the given
-    // depth past the directly summed terms; false when F fails or is asked to
-    // stop (the reason goes to the problems), or when the series would pass
-    // its cap.
-    bool Grow(Series& series, int depth, const std::string& where) {
+    // depth past the directly summed terms. Failed when F fails or is asked
+    // to stop (the reason goes to the problems); Capped when the series
+    // reached its cap first: the fraction then starts earlier and its sums
+    // are what they are, for the estimate to judge.
+    Growth Grow(Series& series, int depth, const std::string& where) {
         // Nodes reach past the highest resonance known beforehand, so that
         // the first sum already sees it.
         const int reach =
             static_cast<int>(std::ceil(1.25 * p_.resonance * series.period / std::numbers::pi));
+        Growth growth = Growth::Ok;
         for (;;) {
-            const int count = std::max(series.shift + 2 * depth + 1, reach);
-            if (count > kMaxValuesPerSeries) return false;
+            int count = std::max(series.shift + 2 * depth + 1, reach);
+            if (count > kMaxValuesPerSeries) {
+                growth = Growth::Capped;
+                count = kMaxValuesPerSeries;
+                series.shift = std::min(series.shift, count - (2 * depth + 1));
+            }
             if (static_cast<int>(series.a.size()) >= count) break;
             for (int k = static_cast<int>(series.a.size()); k < count; ++k) {
-                if (!Take(series, k, where)) return false;
+                if (!Take(series, k, where)) return Growth::Failed;
             }
+            if (growth == Growth::Capped) break;
             series.shift = std::max(series.shift, series.ShiftNeeded());
         }
         series.Refit();
-        return true;
+        return growth;
     }
 
     bool Take(Series& series, int k, const std::string& where) {

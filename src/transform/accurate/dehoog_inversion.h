@@ -31,7 +31,7 @@ namespace lapdesk {
 
 struct AccurateParameters {
     int M = 32;      // first depth of a band's primary fraction (2M+1 values)
-    int maxM = 256;  // cap on that depth: at most 4*maxM+1 values per band
+    int maxM = 256;  // cap on that depth (and 4096 values per parameter set)
     // Aimed discretisation error. 1e-14 rather than 1e-13: a program such as
     // Sqrt(p+0.5)-Sqrt(p+0.25) loses digits to cancellation in every value,
     // and the smaller tol moves the lines so that it still ends near 1e-11.
