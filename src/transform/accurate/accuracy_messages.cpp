@@ -100,8 +100,6 @@ ErrorSummary SummariseFft(const TransformDriver& fft, const FftErrorBand& band) 
         summary.largest = std::max(summary.largest, band.band[n]);
         summary.maxAbs = std::max(summary.maxAbs, std::abs(fft.Store()[kResult].Values[n]));
     }
-    summary.from = c.TimeAt(part.first);
-    summary.to = c.TimeAt(part.last);
     summary.ok = std::isfinite(summary.largest) && std::isfinite(summary.maxAbs);
     return summary;
 }
@@ -110,9 +108,7 @@ ErrorSummary SummariseAccurate(const AccurateResult& result) {
     ErrorSummary summary;
     for (const AccuratePoint& p : result.points) {
         if (p.state != PointState::Converged) continue;
-        if (!summary.ok) summary.from = p.t;
         summary.ok = true;
-        summary.to = p.t;
         summary.largest = std::max(summary.largest, p.estimate);
         summary.maxAbs = std::max(summary.maxAbs, std::abs(p.value));
     }
@@ -123,17 +119,15 @@ std::string SummaryLine(const ErrorSummary& s, bool accurate) {
     if (!s.ok) return "";
     std::string text = std::string(accurate ? "高精度逆変換" : "減衰FFT ") + "の推定誤差: 最大 " +
                        ThreeDigits(s.largest);
-    if (s.maxAbs > 0)
-        text += " (max |f| = " + ThreeDigits(s.maxAbs) + " の " +
-                ThreeDigits(100 * s.largest / s.maxAbs) + " %)";
-    return text + "、t = " + RoundTripText(s.from) + "〜" + RoundTripText(s.to);
+    if (s.maxAbs > 0) text += " (max |f| の " + ThreeDigits(100 * s.largest / s.maxAbs) + " %)";
+    return text;
 }
 
 std::string LargeErrorMessage(const ErrorSummary& s, bool accurate) {
     if (!s.ok || s.largest <= kLargeErrorShare * s.maxAbs) return "";
     return std::string(accurate ? "高精度逆変換" : "減衰FFT ") +
            "の推定誤差が max |f| の 1 % を超えています" +
-           (accurate ? std::string() : std::string("。高精度逆変換で確かめてください"));
+           (accurate ? std::string() : std::string("。高精度で確かめてください"));
 }
 
 }  // namespace lapdesk

@@ -29,8 +29,6 @@ struct ErrorSummary {
     bool ok = false;  // false: nothing to summarise
     double largest = 0.0;
     double maxAbs = 0.0;
-    double from = 0.0;  // the t range looked at
-    double to = 0.0;
 };
 
 // The FFT's band over its reliable part; the accurate estimates over its

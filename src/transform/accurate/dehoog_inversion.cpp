@@ -101,6 +101,7 @@ struct Candidate {
     bool agrees = true;  // with the reference, and so did the rest of its band
 
     bool BetterThan(const Candidate& other) const {
+        if (!std::isfinite(other.estimate)) return std::isfinite(estimate);  // none yet
         if (agrees != other.agrees) return agrees;
         return estimate < other.estimate;
     }

@@ -1,5 +1,7 @@
 #include "transform/window/accuracy/accuracy_layers.h"
 
+#include <limits>
+
 namespace lapdesk {
 
 AccuracyLayers MakeAccuracyLayers(const TransformDriver& fft, const AccuracyReport& report) {
@@ -21,10 +23,17 @@ AccuracyLayers MakeAccuracyLayers(const TransformDriver& fft, const AccuracyRepo
     }
     if (report.accurate) {
         for (const AccuratePoint& p : report.accurate->points) {
+            if (p.state == PointState::Converged) {
+                layers.accurate.x.push_back(p.t);
+                layers.accurate.y.push_back(p.value);
+                continue;
+            }
+            // The accurate curve breaks where it has no vouched-for value.
+            layers.accurate.x.push_back(p.t);
+            layers.accurate.y.push_back(std::numeric_limits<double>::quiet_NaN());
             if (p.state == PointState::NotApplicable) continue;
-            Curve& curve = p.state == PointState::Converged ? layers.accurate : layers.flagged;
-            curve.x.push_back(p.t);
-            curve.y.push_back(p.value);
+            layers.flagged.x.push_back(p.t);
+            layers.flagged.y.push_back(p.value);
         }
     }
     return layers;

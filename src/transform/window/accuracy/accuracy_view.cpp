@@ -149,12 +149,11 @@ void AccuracyView::ShowFindings(const TransformDriver& fft) {
     const std::string singular = SingularityMessage(report, fft.GetConditions());
     if (!singular.empty()) lines << QStringLiteral("⚠ ") + QString::fromStdString(singular);
     if (report.band && !report.band->ok && !report.band->stopped) add(lines, report.band->reason);
-    // A large estimate is said beside its summary, not in the banner: the
+    // The summary gives the share of max |f| itself; no banner for it: the
     // damped FFT at its defaults is often near 1 %, and a banner at every run
     // would hide the findings that matter more.
     const auto summarise = [&](const ErrorSummary& summary, bool accurate) {
         add(summaries, SummaryLine(summary, accurate));
-        add(summaries, LargeErrorMessage(summary, accurate));
     };
     if (report.band) summarise(SummariseFft(fft, *report.band), false);
     if (report.accurate) {
