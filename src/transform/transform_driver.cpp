@@ -234,7 +234,7 @@ Outcome TransformDriver::Invert() {
         return Outcome::Failure(InversionFailure(fault, block_, c));
     }
     std::copy_n(output_.begin(), c.N, store_[kResult].Values.begin());
-    store_.GetMaxValue(kResult, static_cast<int>(std::nearbyint(0.8 * c.N)));
+    store_.GetMaxValue(kResult, static_cast<int>(std::nearbyint(kReliableFraction * c.N)));
     SetStatus("逆変換終了");
     resultLb_ = kLabelOk;
     SetStatus("");

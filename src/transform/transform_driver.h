@@ -19,6 +19,10 @@
 
 namespace lapdesk {
 
+// The first part of the record that sets the plot's scale and that the
+// accuracy features trust; its end carries the FFT's wrap-around.
+inline constexpr double kReliableFraction = 0.8;
+
 // Texts of the state labels.
 inline constexpr std::string_view kLabelNon = "Non";
 inline constexpr std::string_view kLabelMath = "Math";

@@ -17,6 +17,11 @@ std::string ThreeDigits(double x) {
     return buffer;
 }
 
+// How the texts name a result.
+std::string ResultName(bool accurate) {
+    return accurate ? "高精度逆変換" : "減衰FFT ";
+}
+
 // "n 点 (t = a〜b)" for the points in the given state, or "" when none.
 std::string PointsIn(const AccurateResult& result, PointState state) {
     long count = 0;
@@ -117,16 +122,14 @@ ErrorSummary SummariseAccurate(const AccurateResult& result) {
 
 std::string SummaryLine(const ErrorSummary& s, bool accurate) {
     if (!s.ok) return "";
-    std::string text = std::string(accurate ? "高精度逆変換" : "減衰FFT ") + "の推定誤差: 最大 " +
-                       ThreeDigits(s.largest);
+    std::string text = ResultName(accurate) + "の推定誤差: 最大 " + ThreeDigits(s.largest);
     if (s.maxAbs > 0) text += " (max |f| の " + ThreeDigits(100 * s.largest / s.maxAbs) + " %)";
     return text;
 }
 
 std::string LargeErrorMessage(const ErrorSummary& s, bool accurate) {
     if (!s.ok || s.largest <= kLargeErrorShare * s.maxAbs) return "";
-    return std::string(accurate ? "高精度逆変換" : "減衰FFT ") +
-           "の推定誤差が max |f| の 1 % を超えています" +
+    return ResultName(accurate) + "の推定誤差が max |f| の 1 % を超えています" +
            (accurate ? std::string() : std::string("。高精度で確かめてください"));
 }
 

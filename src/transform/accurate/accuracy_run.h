@@ -25,7 +25,6 @@ struct ReliablePart {
     int last = 0;
 };
 inline constexpr int kUnreliableFirstSteps = 4;
-inline constexpr double kReliableFraction = 0.8;
 ReliablePart ReliablePartOf(const Conditions& conditions);
 
 struct AccuracyOptions {

@@ -60,16 +60,22 @@ struct Series {
     std::optional<DeHoogFraction> fraction;  // on a[shift..]; none when all 0
 
     double Scale(double t) const { return std::exp(gamma * t) / period; }
-    // f at depth m of the tail's fraction; NaN when the fraction broke down.
-    double Value(double t, int m) const {
+    // The directly summed terms at t, the same for every depth of the tail.
+    Cx Head(double t) const {
         const double angle = std::numbers::pi * t / period;
         Cx sum{};
         for (int k = 0; k < shift; ++k)
             sum += a[k] * std::polar(1.0, k * angle);
+        return sum;
+    }
+    // f at depth m of the tail's fraction after the head; NaN when the
+    // fraction broke down.
+    double Value(double t, int m, const Cx& head) const {
+        Cx sum = head;
         if (fraction) {
             if (!fraction->ok()) return std::numeric_limits<double>::quiet_NaN();
-            const Cx z = std::polar(1.0, angle);
-            sum += std::polar(1.0, shift * angle) * fraction->Evaluate(z, m);
+            const double angle = std::numbers::pi * t / period;
+            sum += std::polar(1.0, shift * angle) * fraction->Evaluate(std::polar(1.0, angle), m);
         }
         return Scale(t) * sum.real();
     }
@@ -175,10 +181,13 @@ class Inverter {
     // The deeper cut is not the value shown: its fraction's coefficients
     // carry more rounding from the quotient-difference table.
     static Candidate Sum(const Series& primary, const Series& check, double t, int m) {
-        const double value = primary.Value(t, m);
+        const Cx head = primary.Head(t);
+        const double value = primary.Value(t, m, head);
+        const double deeper = primary.Value(t, 2 * m, head);
+        const double other = check.Value(t, m, check.Head(t));
         const double floor = kEpsilon * primary.Scale(t) * primary.sumAbs;
-        double estimate = kEstimateSafety * std::max({std::abs(value - primary.Value(t, 2 * m)),
-                                                      std::abs(value - check.Value(t, m)), floor});
+        double estimate =
+            kEstimateSafety * std::max({std::abs(value - deeper), std::abs(value - other), floor});
         if (!std::isfinite(value) || !std::isfinite(estimate)) estimate = kInfinity;
         return {value, estimate, true};
     }

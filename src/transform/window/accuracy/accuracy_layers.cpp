@@ -23,15 +23,12 @@ AccuracyLayers MakeAccuracyLayers(const TransformDriver& fft, const AccuracyRepo
     }
     if (report.accurate) {
         for (const AccuratePoint& p : report.accurate->points) {
-            if (p.state == PointState::Converged) {
-                layers.accurate.x.push_back(p.t);
-                layers.accurate.y.push_back(p.value);
-                continue;
-            }
             // The accurate curve breaks where it has no vouched-for value.
+            const bool vouched = p.state == PointState::Converged;
             layers.accurate.x.push_back(p.t);
-            layers.accurate.y.push_back(std::numeric_limits<double>::quiet_NaN());
-            if (p.state == PointState::NotApplicable) continue;
+            layers.accurate.y.push_back(vouched ? p.value
+                                                : std::numeric_limits<double>::quiet_NaN());
+            if (vouched || p.state == PointState::NotApplicable) continue;
             layers.flagged.x.push_back(p.t);
             layers.flagged.y.push_back(p.value);
         }

@@ -152,12 +152,9 @@ void AccuracyView::ShowFindings(const TransformDriver& fft) {
     // The summary gives the share of max |f| itself; no banner for it: the
     // damped FFT at its defaults is often near 1 %, and a banner at every run
     // would hide the findings that matter more.
-    const auto summarise = [&](const ErrorSummary& summary, bool accurate) {
-        add(summaries, SummaryLine(summary, accurate));
-    };
-    if (report.band) summarise(SummariseFft(fft, *report.band), false);
+    if (report.band) add(summaries, SummaryLine(SummariseFft(fft, *report.band), false));
     if (report.accurate) {
-        summarise(SummariseAccurate(*report.accurate), true);
+        add(summaries, SummaryLine(SummariseAccurate(*report.accurate), true));
         add(lines, NotApplicableMessage(*report.accurate));
         add(lines, NotConvergedMessage(*report.accurate));
         add(lines, DisagreementMessage(*report.accurate));

@@ -10,9 +10,6 @@ namespace {
 
 constexpr double kMargin = 0.1;  // of the span, above and below
 
-// The fraction of the record whose extremes scale the result.
-constexpr double kReliablePart = 0.8;
-
 }  // namespace
 
 AxisRange RangeFromExtremes(double minValue, double maxValue) {
@@ -58,7 +55,7 @@ PlotContent ResultContent(const TransformDriver& driver) {
     content.curves.push_back(std::move(curve));
     content.x = {0.0, c.T};
     content.y = RangeFromExtremes(result.MinValue, result.MaxValue);
-    content.reliableUntil = kReliablePart * c.T;
+    content.reliableUntil = kReliableFraction * c.T;
     return content;
 }
 
