@@ -79,7 +79,7 @@ expect_lacks("${err}" "γ0 を大きく" "accurate mode")
 
 # A program that fails on the first band's line: those points are left out
 # and counted, with the band and the point named.
-file(WRITE "${WORK}/partial.Prg" "If Real(p) > 50 Then\r\nx = 1/0\r\nEnd If\r\nReturn 1/(p+1)\r\nEnd\r\n")
+file(WRITE "${WORK}/partial.Prg" "If Real(p) > 20 Then\r\nx = 1/0\r\nEnd If\r\nReturn 1/(p+1)\r\nEnd\r\n")
 run_cli(0 invert partial.Prg --method dehoog -N 128)
 expect_contains("${err}" "warning: 高精度逆変換を適用できない 4 点を除きました (帯 1 (t = 0.0390625〜0.15625): s = " "the left-out points")
 expect_contains("${err}" "0 で除算しました" "the program's reason")
@@ -90,7 +90,7 @@ if(NOT count EQUAL 4)
 endif()
 
 # A program that never ends at an accurate-mode node stops with a reason.
-file(WRITE "${WORK}/runaway.Prg" "If Real(p) > 50 Then\r\nDo\r\nLoop\r\nEnd If\r\nReturn 1/(p+1)\r\nEnd\r\n")
+file(WRITE "${WORK}/runaway.Prg" "If Real(p) > 20 Then\r\nDo\r\nLoop\r\nEnd If\r\nReturn 1/(p+1)\r\nEnd\r\n")
 run_cli(0 invert runaway.Prg --method dehoog -N 128)
 expect_contains("${err}" "文を超えても終わらない" "the runaway")
 

@@ -35,11 +35,12 @@ struct Layout {
     double checkFactor;
 };
 
-// The first layout is the plain one; the others, for the points it left
-// short, use shorter bands (fewer oscillations of f per period, less growth
-// of e^(gamma t)).
+// The first layout is the plain one. The second, for points left at their
+// rounding noise, doubles the period: e^(gamma t) then magnifies the rounding
+// of the values of F by its square root only. The others, for what is still
+// short, use shorter bands (fewer oscillations of f per period).
 std::vector<Layout> Layouts(const AccurateParameters& p) {
-    return {{p.bandRatio, 2.0, 2.5}, {2.0, 1.5, 1.9}, {1.5, 1.25, 1.6}};
+    return {{p.bandRatio, 2.0, 2.5}, {p.bandRatio, 4.0, 5.0}, {2.0, 1.5, 1.9}, {1.5, 1.25, 1.6}};
 }
 
 // Values a series may take before a band gives up: a sum whose resonances
@@ -105,6 +106,10 @@ struct Candidate {
     double value = 0.0;
     double estimate = kInfinity;
     bool agrees = true;  // with the reference, and so did the rest of its band
+    // |value at depth m - at 2m| and |at m/2 - at m|: whether more depth
+    // still helps.
+    double deeperStep = 0.0;
+    double shallowerStep = 0.0;
 
     bool BetterThan(const Candidate& other) const {
         if (!std::isfinite(other.estimate)) return std::isfinite(estimate);  // none yet
@@ -154,12 +159,15 @@ class Inverter {
             if (grown != Growth::Failed) grown = Worse(grown, Grow(check, m, where));
             if (grown == Growth::Failed) return;
             std::vector<Candidate> round;
-            double worst = 0.0;  // the largest estimate, in targets
+            double worst = 0.0;        // the largest estimate, in targets
+            bool deeperHelps = false;  // some point short of its target still converges
             bool agrees = true;
             for (const std::size_t index : band) {
                 const Candidate c = Sum(primary, check, result_.points[index].t, m);
-                worst =
-                    std::max(worst, c.estimate / (p_.target * std::max(scale, std::abs(c.value))));
+                const double target = p_.target * std::max(scale, std::abs(c.value));
+                worst = std::max(worst, c.estimate / target);
+                if (c.estimate > target && c.deeperStep <= 0.5 * c.shallowerStep)
+                    deeperHelps = true;
                 agrees = agrees && Agrees(index, c);
                 round.push_back(c);
             }
@@ -170,7 +178,10 @@ class Inverter {
             const bool brokeDown = primary.fraction && !primary.fraction->ok();
             // More terms help while they shrink the estimate; when they stop
             // doing so, what is left is the layout's (shorter bands may do).
-            const bool stalled = agrees && worst > 0.5 * worstBefore;
+            // The steps between depths m/2, m and 2m tell the same a round
+            // early: where doubling did not halve the step, the sum is at its
+            // rounding noise.
+            const bool stalled = agrees && (worst > 0.5 * worstBefore || !deeperHelps);
             if ((worst <= 1.0 && agrees) || brokeDown || stalled || grown == Growth::Capped) return;
             worstBefore = worst;
         }
@@ -184,12 +195,13 @@ class Inverter {
         const Cx head = primary.Head(t);
         const double value = primary.Value(t, m, head);
         const double deeper = primary.Value(t, 2 * m, head);
+        const double shallower = primary.Value(t, m / 2, head);
         const double other = check.Value(t, m, check.Head(t));
         const double floor = kEpsilon * primary.Scale(t) * primary.sumAbs;
         double estimate =
             kEstimateSafety * std::max({std::abs(value - deeper), std::abs(value - other), floor});
         if (!std::isfinite(value) || !std::isfinite(estimate)) estimate = kInfinity;
-        return {value, estimate, true};
+        return {value, estimate, true, std::abs(value - deeper), std::abs(shallower - value)};
     }
 
     bool Agrees(std::size_t index, const Candidate& c) const {
