@@ -27,9 +27,7 @@ bool RunLine(std::string line, Interpreter& session, ConsoleView& view) {
     ImmediateResult result = session.ImmediateLine(line);
     if (!result.ok) {
         std::cout << "Error\n";
-        const std::string& reason = session.ImmediatePage().ErrorText();
-        std::cerr << QuotedInput(line) << " : "
-                  << (reason.empty() ? "式が正しくありません" : ForTerminal(reason)) << '\n';
+        std::cerr << QuotedInput(line) << " : " << ForTerminal(result.reason) << '\n';
         return false;
     }
     std::cout << ComplexToText(result.value, view.RoundedDisplay()) << '\n';

@@ -1,6 +1,7 @@
 #include "expr/evaluator.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "expr/nesting_guard.h"
@@ -264,11 +265,14 @@ bool Evaluator::EvalNamed(const PrimaryScan& scan, Complex& value) {
     return FailUnknownName(target);
 }
 
-// A name the scope could not read: a plain one is unknown, and says so; an
-// element's failure has its reason already.
+// A name the scope could not read: a plain one is unknown, and says so (with
+// the constant meant, for a usual spelling such as pi); an element's failure
+// has its reason already.
 bool Evaluator::FailUnknownName(const NameWithSubscripts& target) {
-    if (target.subscripts.empty()) Fail("「" + std::string(target.name) + "」は定義されていません");
-    return false;
+    if (!target.subscripts.empty()) return false;
+    std::string reason = "「" + std::string(target.name) + "」は定義されていません";
+    if (const auto hint = UnknownNameHint(target.name)) reason += *hint;
+    return Fail(std::move(reason));
 }
 
 Evaluation Evaluate(std::string_view text, NameScope& scope) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "values/builtins.h"
 #include "values/complex.h"
@@ -248,6 +249,19 @@ bool IsReservedWord(std::string_view name) {
                        [&](auto& f) { return matches(f.name); }) ||
            std::any_of(v.matrixFunctions.begin(), v.matrixFunctions.end(),
                        [&](auto& f) { return matches(f.name); });
+}
+
+std::optional<std::string_view> UnknownNameHint(std::string_view name) {
+    static constexpr std::pair<std::string_view, std::string_view> kHints[] = {
+        {"pi", "（円周率は PAI または π）"},
+        {"tau", "（2π は DPI または 2π）"},
+        {"e", "（自然対数の底は Exp1）"},
+        {"i", "（虚数単位は 1i）"},
+        {"j", "（虚数単位は 1j）"}};
+    for (const auto& [spelling, hint] : kHints) {
+        if (SameWord(name, spelling)) return hint;
+    }
+    return std::nullopt;
 }
 
 }  // namespace lapdesk

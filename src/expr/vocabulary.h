@@ -86,4 +86,9 @@ bool IsNamedConstant(std::string_view name);
 // begins with a digit.
 bool IsReservedWord(std::string_view name);
 
+// For an unknown plain name that other calculators use for a named constant
+// (pi, tau, e, i, j; any letter case): the advice appended to the message
+// that the name is not defined, naming the constant of this language.
+std::optional<std::string_view> UnknownNameHint(std::string_view name);
+
 }  // namespace lapdesk

@@ -100,8 +100,10 @@ class ClsCode : public NameScope {
     bool APc03DefineFunction(std::string_view header);
     void ACopyToArgment(std::int16_t index, const CallArgument& argument);
 
-    // The reason of the last failure on this page.
+    // The reason of the last failure on this page; cleared before work whose
+    // own failure is to be told apart from an earlier one.
     const std::string& ErrorText() const { return errorText_; }
+    void ClearErrorText() { errorText_.clear(); }
     std::int16_t CurrentLine() const { return currentLine_; }
 
     // NameScope: how expressions on this page read names and call functions.

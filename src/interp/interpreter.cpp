@@ -17,6 +17,16 @@ namespace {
 // User-function calls may nest this deep (the stack guard may end it sooner).
 constexpr int kMaxCallDepth = 1000;
 
+// Why the brackets of a line do not pair up; empty when they do.
+std::string_view BracketFault(std::string_view line) {
+    int depth = 0;
+    for (char c : line) {
+        if (c == '(') ++depth;
+        if (c == ')' && --depth < 0) return "括弧が対応していません";
+    }
+    return depth > 0 ? "括弧が閉じていません" : "";
+}
+
 constexpr std::uint32_t kAnalysingColour = 0xFFFFC0;
 constexpr std::uint32_t kReadyColour = 0x80FFFF;
 
@@ -196,15 +206,22 @@ void Interpreter::EraseAllMemories() {
 ImmediateResult Interpreter::ImmediateLine(std::string_view line) {
     ImmediateResult result;
     ClsCode& page = ImmediatePage();
+    // The page keeps the reason of its last failure, which may be an earlier
+    // line's: this line's reason starts empty.
+    page.ClearErrorText();
     line = Trim(line);
+    const std::string_view brackets = BracketFault(line);
     const bool declaration = StartsWithWord(line, "global ") || StartsWithWord(line, "Dim ");
     if (declaration || FindTopLevel(line, '=') != std::string_view::npos) {
         result.ok = page.AImidateStatement(line, result.value.Re, result.value.Im);
-        return result;
+    } else if (brackets.empty()) {
+        result.ok = page.ACalcu(TrimRight(line), result.value.Re, result.value.Im);
     }
-    std::vector<std::string_view> unused;
-    if (!SplitTopLevel(line, ',', unused)) return result;  // an unclosed bracket
-    result.ok = page.ACalcu(TrimRight(line), result.value.Re, result.value.Im);
+    if (!result.ok) {
+        result.reason = !page.ErrorText().empty() ? page.ErrorText()
+                        : !brackets.empty()       ? std::string(brackets)
+                                                  : std::string("式が正しくありません");
+    }
     return result;
 }
 

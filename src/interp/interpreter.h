@@ -14,10 +14,11 @@
 
 namespace lapdesk {
 
-// The outcome of one immediate line.
+// The outcome of one immediate line: its value, or why this line failed.
 struct ImmediateResult {
     bool ok = false;
     Complex value;
+    std::string reason;  // empty when ok
 };
 
 class Interpreter {

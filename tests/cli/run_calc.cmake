@@ -1,10 +1,12 @@
 # Runs `lapdesk-cli calc` once and checks its standard output against a
 # golden file, its exit status, and that every "Error" line has its reason
-# on standard error, naming the line that failed.
+# on standard error, naming the line that failed. With ERRORS, standard
+# error must be that file exactly: each reason is the one of its own line.
 #
 #   cmake -DCLI=<binary> -DEXPECTED=<file> -DSTATUS=<0|1>
 #         [-DINPUT=<file of lines for standard input>] [-DCRLF=ON]
-#         [-DARGS=<arguments after "calc", separated by "|">] -P run_calc.cmake
+#         [-DARGS=<arguments after "calc", separated by "|">]
+#         [-DERRORS=<file>] -P run_calc.cmake
 #
 # Without ARGS the lines come from INPUT on standard input; with ARGS they
 # are the arguments. Output line i answers input line i.
@@ -78,6 +80,13 @@ elseif(count GREATER 0)
   endforeach()
   if(failures GREATER 0 AND NOT STATUS EQUAL 1)
     string(APPEND problems "the golden file has Error lines, so the status must be 1\n")
+  endif()
+endif()
+
+if(DEFINED ERRORS)
+  file(READ "${ERRORS}" expected_errors)
+  if(NOT errors STREQUAL expected_errors)
+    string(APPEND problems "standard error differs\n--- expected\n${expected_errors}")
   endif()
 endif()
 

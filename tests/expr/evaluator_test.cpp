@@ -159,6 +159,41 @@ TEST_F(EvaluatorTest, FailuresNameTheUnknownWordAndCarryNoFaultCode) {
     }
 }
 
+// A spelling of a constant that other calculators use is unknown here; the
+// failure names it as before and then the constant to write instead, which
+// must give the value meant.
+TEST_F(EvaluatorTest, UnknownSpellingsOfConstantsNameTheConstant) {
+    EXPECT_EQ(Eval("Sin(pi/2)").message, "「pi」は定義されていません（円周率は PAI または π）");
+    const struct {
+        const char* text;
+        const char* name;
+        const char* constant;  // named in the advice
+        Complex meant;
+    } rows[] = {{"2*PI", "PI", "PAI", {kPi, 0}},
+                {"tau/2", "tau", "DPI", {2 * kPi, 0}},
+                {"e^2", "e", "Exp1", {std::numbers::e, 0}},
+                {"E", "E", "Exp1", {std::numbers::e, 0}},
+                {"1+i", "i", "1i", {0, 1}},
+                {"J", "J", "1j", {0, 1}}};
+    for (const auto& row : rows) {
+        const Evaluation e = Eval(row.text);
+        EXPECT_FALSE(e.ok) << row.text;
+        const std::string unknown = std::string("「") + row.name + "」は定義されていません（";
+        EXPECT_EQ(e.message.rfind(unknown, 0), 0u) << row.text << ": " << e.message;
+        EXPECT_NE(e.message.find(std::string(" ") + row.constant), std::string::npos)
+            << row.text << ": " << e.message;
+        EXPECT_TRUE(Matches(Eval(row.constant), Value(row.meant.Re, row.meant.Im, 1e-15)))
+            << row.constant;
+    }
+    for (const char* name : {"pie", "tau2", "ee", "ln"}) {
+        EXPECT_EQ(Eval(name).message, std::string("「") + name + "」は定義されていません") << name;
+    }
+    // Variables of those names are read as any other.
+    scope.SetScalar("pi", {3, 0});
+    scope.SetScalar("e", {2, 0});
+    EXPECT_TRUE(Matches(Eval("pi+e"), Value(5)));
+}
+
 TEST_F(EvaluatorTest, ArithmeticFaultsAreTrappedWithTheirCode) {
     const struct {
         const char* text;

@@ -45,6 +45,34 @@ TEST(Immediate, FailuresShowWhy) {
     EXPECT_EQ(s.Global().ErrorText(), "0 で除算しました。");
 }
 
+// Lines in one session: each failure carries its own reason, never one left
+// over from an earlier line, and a line that succeeds carries none.
+TEST(Immediate, EachLineHasItsOwnReason) {
+    const struct {
+        const char* line;
+        const char* reason;  // empty: the line succeeds
+    } rows[] = {{"1/0", "0 で除算しました。"},
+                {"(1+2", "括弧が閉じていません"},
+                {"1+1", ""},
+                {"zz", "「zz」は定義されていません"},
+                {"Sin(1", "括弧が閉じていません"},
+                {"1+2)", "括弧が対応していません"},
+                {"PAI = 3", "代入先が不正"},
+                {"Dim A(2", "括弧が閉じていません"},
+                {"y = 1 / 0", "0 で除算しました。"},
+                {"y = 2", ""},
+                {"", "式が正しくありません"},
+                {"pi", "「pi」は定義されていません（円周率は PAI または π）"},
+                {"pi = 3", ""},
+                {"pi", ""}};
+    Session s;
+    for (const auto& row : rows) {
+        const ImmediateResult result = s.Line(row.line);
+        EXPECT_EQ(result.ok, *row.reason == '\0') << '"' << row.line << '"';
+        EXPECT_EQ(result.reason, row.reason) << '"' << row.line << '"';
+    }
+}
+
 // After a run the immediate line reads Main's variables, but an assignment
 // creates a global of the same name instead of writing Main's variable.
 TEST(Immediate, SeesMainVariablesButGlobalsComeFirst) {
