@@ -1,9 +1,172 @@
 #include "importer/import_preview.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <charconv>
+#include <cmath>
 #include <cstdio>
+#include <system_error>
+
+#include "fileio/text_codec.h"
 
 namespace lapdesk {
+
+namespace {
+
+// 'path', built by appending (GCC 12 reports a false -Wrestrict for a
+// literal + std::string at -O3).
+std::string QuotedPath(const std::filesystem::path& path) {
+    std::string quoted(1, '\'');
+    quoted.append(path.string()).push_back('\'');
+    return quoted;
+}
+
+// Why a file could not be opened or read, by the system's error number.
+std::string OpenFailure(int error, bool opening) {
+    switch (error) {
+        case ENOENT:
+            return "ファイルがありません";
+        case EACCES:
+        case EPERM:
+            return "ファイルを読む権限がありません";
+        case EISDIR:
+            return "フォルダなので読めません（ファイルを選んでください）";
+        default:
+            return std::string(opening ? "ファイルを開けません" : "ファイルを読めません") +
+                   "（システムのエラー番号 " + std::to_string(error) + "）";
+    }
+}
+
+struct Bytes {
+    bool ok = false;
+    std::string bytes;
+    std::string reason;
+};
+
+Bytes ReadBytes(const std::filesystem::path& path) {
+    std::FILE* file = std::fopen(path.c_str(), "rb");
+    if (file == nullptr) return {false, {}, OpenFailure(errno, true)};
+    Bytes read{true, {}, {}};
+    char buffer[65536];
+    std::size_t n = 0;
+    while ((n = std::fread(buffer, 1, sizeof buffer, file)) > 0)
+        read.bytes.append(buffer, n);
+    if (std::ferror(file)) read = {false, {}, OpenFailure(errno, false)};
+    std::fclose(file);
+    return read;
+}
+
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
+// Why the bytes are neither UTF-8 nor cp932, by the first line that fails.
+// Line breaks are single bytes that no cp932 character contains, so the raw
+// bytes split into the same lines as the text.
+std::string DecodeFailure(std::string_view bytes) {
+    const bool marked = bytes.starts_with(kUtf8Mark);
+    if (marked) bytes.remove_prefix(kUtf8Mark.size());
+    const std::vector<std::string> lines = SplitLines(bytes);
+    const auto lineName = [](std::size_t i) { return std::to_string(i + 1) + " 行目"; };
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (marked && !IsValidUtf8(lines[i])) {
+            return "UTF-8 の印（BOM）で始まるのに、" + lineName(i) + "が UTF-8 として読めません";
+        }
+        if (!marked && !IsValidUtf8(lines[i]) && !Cp932ToUtf8(lines[i]).ok) {
+            return lineName(i) + "に cp932 でも UTF-8 でもない文字があります";
+        }
+    }
+    if (!Cp932ToUtf8("A").ok) return "この環境には cp932 の文字変換がありません";
+    // Every line reads in one of the two codes, but not all in the same.
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (!Cp932ToUtf8(lines[i]).ok) {
+            return lineName(i) +
+                   "は UTF-8 ですが、ほかの行は cp932 "
+                   "なので読めません（文字コードが混ざっています）";
+        }
+    }
+    return "cp932 でも UTF-8 でもない文字があります";
+}
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+std::size_t SkipDigits(std::string_view s, std::size_t i) {
+    while (i < s.size() && IsDigit(s[i]))
+        ++i;
+    return i;
+}
+
+// The text a line is quoted by: its first 40 characters (UTF-8 sequences
+// kept whole) between 「」, "…" when cut.
+std::string QuotedLine(std::string_view line) {
+    constexpr std::size_t kShown = 40;
+    std::size_t end = 0;
+    for (std::size_t characters = 0; end < line.size() && characters < kShown; ++characters) {
+        do {
+            ++end;
+        } while (end < line.size() && (static_cast<unsigned char>(line[end]) & 0xC0) == 0x80);
+    }
+    std::string quoted = "「";
+    quoted.append(line.substr(0, end)).append(end < line.size() ? "…」" : "」");
+    return quoted;
+}
+
+std::string LineName(const char* what, int line) {
+    return std::string(what) + "（" + std::to_string(line) + " 行目）";
+}
+
+std::string DelimiterName(std::string_view delimiter) {
+    return "区切り文字「" + ShownDelimiter(delimiter.empty() ? " " : delimiter) + "」";
+}
+
+bool HasNumberAt(const std::vector<std::string_view>& pieces, std::size_t at) {
+    return at < pieces.size() && PieceNumber(pieces[at]).has_value();
+}
+
+// The real and imaginary parts at the first column (1-based) and the next.
+bool HasPairAt(std::string_view line, std::string_view delimiter, int column) {
+    const std::vector<std::string_view> pieces = SplitPieces(line, delimiter);
+    const auto at = static_cast<std::size_t>(column - 1);
+    return HasNumberAt(pieces, at) && HasNumberAt(pieces, at + 1);
+}
+
+// An index column counts on through the first data lines; this many are
+// looked at, and at least three must be there to tell.
+constexpr int kIndexLinesLooked = 10;
+constexpr int kIndexLinesNeeded = 3;
+
+// The counts when the column (1-based) holds integers that grow by one from
+// the first line (0-based) on, none otherwise.
+std::optional<std::vector<long long>> IndexRun(const std::vector<std::string>& lines,
+                                               std::size_t first, std::string_view delimiter,
+                                               int column) {
+    const std::size_t end =
+        std::min(lines.size(), first + static_cast<std::size_t>(kIndexLinesLooked));
+    if (end < first + kIndexLinesNeeded) return std::nullopt;
+    std::vector<long long> counts;
+    for (std::size_t i = first; i < end; ++i) {
+        const std::vector<std::string_view> pieces = SplitPieces(lines[i], delimiter);
+        const auto at = static_cast<std::size_t>(column - 1);
+        const std::optional<double> value =
+            at < pieces.size() ? PieceNumber(pieces[at]) : std::nullopt;
+        if (!value || !(std::fabs(*value) < 1e15) || *value != std::trunc(*value))
+            return std::nullopt;
+        const auto count = static_cast<long long>(*value);
+        if (!counts.empty() && count != counts.back() + 1) return std::nullopt;
+        counts.push_back(count);
+    }
+    return counts;
+}
+
+}  // namespace
+
+PreviewFile ReadPreviewFile(const std::filesystem::path& path) {
+    const Bytes read = ReadBytes(path);
+    if (!read.ok) return {false, {}, QuotedPath(path) + "：" + read.reason};
+    const TextResult text = DecodeText(read.bytes);
+    if (!text.ok) return {false, {}, QuotedPath(path) + "：" + DecodeFailure(read.bytes)};
+    return {true, SplitLines(text.text), {}};
+}
 
 std::string PreviewEntry(int lineNumber, std::string_view text) {
     char number[16];
@@ -37,7 +200,15 @@ int ChoiceRow(int answer, int count) {
 
 namespace {
 constexpr std::string_view kSpaceWord = "スペース";
+
+std::string WithoutSpaces(std::string_view text) {
+    std::string kept;
+    for (const char c : text) {
+        if (c != ' ' && c != '\t') kept.push_back(c);
+    }
+    return kept;
 }
+}  // namespace
 
 std::string ShownDelimiter(std::string_view delimiter) {
     return std::string(delimiter == " " ? kSpaceWord : delimiter);
@@ -45,6 +216,108 @@ std::string ShownDelimiter(std::string_view delimiter) {
 
 std::string TypedDelimiter(std::string_view shown) {
     return std::string(shown == kSpaceWord ? std::string_view(" ") : shown);
+}
+
+bool IsSavedTransformFile(const std::vector<std::string>& lines) {
+    return !lines.empty() && WithoutSpaces(lines.front()) == WithoutSpaces(kSavedFileHeader);
+}
+
+ReadAnswers SavedFileAnswers() {
+    return {2, 4, 1, ","};
+}
+
+std::vector<std::string_view> SplitPieces(std::string_view line, std::string_view delimiter) {
+    const std::string_view separator = delimiter.empty() ? std::string_view(" ") : delimiter;
+    std::vector<std::string_view> pieces;
+    std::size_t pos = 0;
+    while (true) {
+        pos = line.find_first_not_of(' ', pos);
+        if (pos == std::string_view::npos) break;
+        const std::size_t pieceEnd = line.find(' ', pos);
+        pieces.push_back(line.substr(pos, pieceEnd - pos));
+        const std::size_t next = line.find(separator, pos);
+        if (next == std::string_view::npos) break;
+        pos = next + separator.size();
+        if (pos >= line.size()) break;
+    }
+    return pieces;
+}
+
+std::optional<double> PieceNumber(std::string_view piece) {
+    std::size_t i = 0;
+    if (i < piece.size() && (piece[i] == '+' || piece[i] == '-')) ++i;
+    const std::size_t start = i;
+    i = SkipDigits(piece, i);
+    std::size_t digits = i - start;
+    if (i < piece.size() && piece[i] == '.') {
+        const std::size_t fraction = i + 1;
+        i = SkipDigits(piece, fraction);
+        digits += i - fraction;
+    }
+    if (digits == 0) return std::nullopt;
+    const bool negative = piece.front() == '-';
+    double value = 0.0;
+    const auto parsed = std::from_chars(piece.data() + start, piece.data() + piece.size(), value);
+    if (parsed.ec == std::errc::result_out_of_range) {
+        // Too small when the exponent is negative, too large otherwise; the
+        // reader takes them as 0 and HUGE_VAL as well.
+        const std::string_view number(piece.data() + start,
+                                      static_cast<std::size_t>(parsed.ptr - piece.data()) - start);
+        const std::size_t e = number.find_first_of("Ee");
+        value = e != std::string_view::npos && number[e + 1] == '-' ? 0.0 : HUGE_VAL;
+    }
+    return negative ? -value : value;
+}
+
+std::vector<Doubt> FindDoubts(const std::vector<std::string>& lines, const ReadAnswers& answers) {
+    std::vector<Doubt> doubts;
+    if (answers.paramLine < 1 || answers.dataLine < 1 || answers.firstColumn < 1) return doubts;
+    const auto has = [&lines](int line) { return static_cast<std::size_t>(line) <= lines.size(); };
+    const std::string& delimiter = answers.delimiter;
+
+    if (has(answers.paramLine)) {
+        const std::string& line = lines[answers.paramLine - 1];
+        const std::vector<std::string_view> pieces = SplitPieces(line, delimiter);
+        if (std::none_of(pieces.begin(), pieces.end(),
+                         [](std::string_view piece) { return PieceNumber(piece).has_value(); })) {
+            doubts.push_back({DoubtKind::NoParameters,
+                              LineName("パラメータ行", answers.paramLine) + "には、" +
+                                  DelimiterName(delimiter) +
+                                  "で分けると数がありません（N, T, γ0 の行ではないようです）：" +
+                                  QuotedLine(line)});
+        }
+    }
+
+    const int first = std::max(answers.paramLine + 1, answers.dataLine);
+    if (!has(first)) return doubts;
+    const std::string& line = lines[first - 1];
+    const std::string column = std::to_string(answers.firstColumn) + " 列目";
+    if (!HasPairAt(line, delimiter, answers.firstColumn)) {
+        std::string text = LineName("データ開始行", first) + "は、" + DelimiterName(delimiter) +
+                           "で分けると " + column + "から 2 個の数（実部と虚部）になりません：" +
+                           QuotedLine(line);
+        for (const std::string_view other : kDelimiters) {
+            if (other != (delimiter.empty() ? " " : delimiter) &&
+                HasPairAt(line, other, answers.firstColumn)) {
+                text += "。" + DelimiterName(other) + "なら読めます";
+                break;
+            }
+        }
+        doubts.push_back({DoubtKind::TooFewNumbers, text});
+        return doubts;
+    }
+    const std::optional<std::vector<long long>> counts =
+        IndexRun(lines, static_cast<std::size_t>(first - 1), delimiter, answers.firstColumn);
+    if (counts) {
+        std::string shown;
+        for (std::size_t i = 0; i < 3; ++i)
+            shown += std::to_string((*counts)[i]) + ", ";
+        doubts.push_back({DoubtKind::IndexColumn,
+                          "開始列（" + column + "）は" + LineName("データ開始行", first) + "から " +
+                              shown + "… と 1 ずつ増える番号の列です。実部は次の " +
+                              std::to_string(answers.firstColumn + 1) + " 列目ではありませんか"});
+    }
+    return doubts;
 }
 
 }  // namespace lapdesk

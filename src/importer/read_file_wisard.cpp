@@ -8,10 +8,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "fileio/text_file.h"
 #include "importer/import_preview.h"
 
 namespace lapdesk {
@@ -55,6 +56,29 @@ QWidget* Captioned(const QString& caption, QWidget* control, const QString& tip)
     return box;
 }
 
+// The question before reading answers that look wrong; only 読込む reads.
+bool AskToReadAnyway(QWidget* parent, const QString& text) {
+    QMessageBox box(QMessageBox::Question, QStringLiteral("読込み形式の確認"), text,
+                    QMessageBox::NoButton, parent);
+    box.setObjectName(QStringLiteral("DoubtQuestion"));
+    QPushButton* read = box.addButton(QStringLiteral("読込む"), QMessageBox::AcceptRole);
+    QPushButton* back = box.addButton(QStringLiteral("戻る"), QMessageBox::RejectRole);
+    read->setObjectName(QStringLiteral("ReadAnyway"));
+    back->setObjectName(QStringLiteral("GoBack"));
+    box.setDefaultButton(back);
+    box.setEscapeButton(back);
+    box.exec();
+    return box.clickedButton() == read;
+}
+
+QString DoubtQuestion(const std::vector<Doubt>& doubts) {
+    QString text = QStringLiteral("選んだ形式では正しく読めないかもしれません：\n");
+    for (const Doubt& doubt : doubts) {
+        text += QStringLiteral("\n・") + QString::fromStdString(doubt.text);
+    }
+    return text + QStringLiteral("\n\nこのまま読込みますか？");
+}
+
 }  // namespace
 
 ReadFileWisard::ReadFileWisard(QWidget* parent) : QDialog(parent) {
@@ -72,6 +96,16 @@ ReadFileWisard::ReadFileWisard(QWidget* parent) : QDialog(parent) {
     sampleList_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     sampleList_->setMinimumSize(640, 260);
     sampleList_->setToolTip(QStringLiteral("ファイルの先頭 200 行（行番号|内容）"));
+    // A click sets an answer instead of selecting: the marks stay visible.
+    sampleList_->setSelectionMode(QAbstractItemView::NoSelection);
+    connect(sampleList_, &QListWidget::itemClicked, this,
+            [this](QListWidgetItem* item) { PreviewClicked(sampleList_->row(item)); });
+    savedFileNote_ = Named(new QLabel(QStringLiteral(
+                               "変換画面で保存したデータファイルなので、その形式（区切り文字「,」、"
+                               "パラメータ行 2、データ開始行 4、開始列 1）を選んであります")),
+                           "SavedFileNote");
+    savedFileNote_->setWordWrap(true);
+    savedFileNote_->hide();
     previewNote_ = Named(new QLabel, "PreviewNote");
     previewNote_->setForegroundRole(QPalette::PlaceholderText);
     previewNote_->hide();
@@ -104,6 +138,19 @@ ReadFileWisard::ReadFileWisard(QWidget* parent) : QDialog(parent) {
     connect(buttonOk_, &QPushButton::clicked, this, &ReadFileWisard::ButtonOk_Click);
     connect(cancel, &QPushButton::clicked, this, &ReadFileWisard::ButtonCalcel_Click);
 
+    // Which answer a click on a preview line sets: the first data line
+    // unless the parameter line is chosen here.
+    clickSetsSpecial_ =
+        Named(new QRadioButton(QStringLiteral("パラメータ行（黄）")), "ClickSetsSpecial");
+    clickSetsTopRow_ =
+        Named(new QRadioButton(QStringLiteral("データ開始行（緑）")), "ClickSetsTopRow");
+    clickSetsTopRow_->setChecked(true);
+    auto* clickRule = new QHBoxLayout;
+    clickRule->addWidget(new QLabel(QStringLiteral("行をクリックすると設定する項目：")));
+    clickRule->addWidget(clickSetsSpecial_);
+    clickRule->addWidget(clickSetsTopRow_);
+    clickRule->addStretch();
+
     channelBox_ = Captioned(QStringLiteral("チャンネル"), chnoList_,
                             QStringLiteral("読み込むチャンネルの番号"));
     channelBox_->hide();
@@ -130,6 +177,8 @@ ReadFileWisard::ReadFileWisard(QWidget* parent) : QDialog(parent) {
     layout->addWidget(fileLabel_);
     layout->addWidget(sampleList_, 1);
     layout->addWidget(previewNote_);
+    layout->addLayout(clickRule);
+    layout->addWidget(savedFileNote_);
     layout->addLayout(choices);
     layout->addLayout(buttons);
 }
@@ -161,25 +210,28 @@ bool ReadFileWisard::ShowModal() {
     return labels_.OkFlagLb;
 }
 
-// Fills the preview and the lists from the file and the kept answers.
+// Fills the preview and the lists from the file and the kept answers, or
+// the answers of a saved data file.
 bool ReadFileWisard::Activate() {
-    const LinesResult read = ReadTextLines(labels_.FileNameLb.toStdString());
+    PreviewFile read = ReadPreviewFile(labels_.FileNameLb.toStdString());
     if (!read.ok) {
         readFailure_ = QString::fromStdString(read.reason);
         ButtonCalcel_Click();
         return false;
     }
+    lines_ = std::move(read.lines);
+    ChooseAnswersFor(IsSavedTransformFile(lines_));
     fileLabel_->setText(QStringLiteral("ファイル: ") + labels_.FileNameLb);
     sampleList_->clear();
-    const std::vector<std::string> entries = PreviewEntries(read.lines);
+    const std::vector<std::string> entries = PreviewEntries(lines_);
     for (const std::string& entry : entries) {
         sampleList_->addItem(QString::fromStdString(entry));
     }
     const int lines = static_cast<int>(entries.size());
     previewNote_->setText(QStringLiteral("ファイルは %1 行あります：先頭 %2 行だけを表示しています")
-                              .arg(read.lines.size())
+                              .arg(lines_.size())
                               .arg(kPreviewLineLimit));
-    previewNote_->setVisible(static_cast<int>(read.lines.size()) > kPreviewLineLimit);
+    previewNote_->setVisible(static_cast<int>(lines_.size()) > kPreviewLineLimit);
     FillNumberList(topRow_, lines, labels_.TopRowLb);
     FillNumberList(specialRow_, lines, labels_.SpecialLb);
     FillNumberList(topColumn_, labels_.MaxColumnLb, labels_.TopColumnLb);
@@ -189,6 +241,41 @@ bool ReadFileWisard::Activate() {
     buttonOk_->setDefault(true);
     buttonOk_->setFocus();
     return true;
+}
+
+// A saved data file gets the answers that read it back; the answers kept
+// from other files are set aside meanwhile and return with the next one.
+void ReadFileWisard::ChooseAnswersFor(bool savedFile) {
+    if (savedFile) {
+        if (!showingSavedFile_) {
+            keptAnswers_ = {labels_.SpecialLb, labels_.TopRowLb, labels_.TopColumnLb,
+                            labels_.DelmLb};
+        }
+        const ReadAnswers saved = SavedFileAnswers();
+        labels_.SpecialLb = saved.paramLine;
+        labels_.TopRowLb = saved.dataLine;
+        labels_.TopColumnLb = saved.firstColumn;
+        labels_.DelmLb = QString::fromStdString(saved.delimiter);
+    } else if (showingSavedFile_) {
+        labels_.SpecialLb = keptAnswers_.SpecialLb;
+        labels_.TopRowLb = keptAnswers_.TopRowLb;
+        labels_.TopColumnLb = keptAnswers_.TopColumnLb;
+        labels_.DelmLb = keptAnswers_.DelmLb;
+    }
+    showingSavedFile_ = savedFile;
+    savedFileNote_->setVisible(savedFile);
+}
+
+// A click on a preview line chooses it in the list the click rule names;
+// the list's selection then sets the answer.
+void ReadFileWisard::PreviewClicked(int row) {
+    ChooseRow(clickSetsSpecial_->isChecked() ? specialRow_ : topRow_, row);
+}
+
+void ReadFileWisard::ChooseRow(QListWidget* list, int row) {
+    if (row < 0 || row >= list->count()) return;
+    list->setCurrentRow(row);
+    list->scrollToItem(list->item(row));
 }
 
 void ReadFileWisard::FillNumberList(QListWidget* list, int count, int answer) {
@@ -213,6 +300,12 @@ void ReadFileWisard::MarkPreview() {
 }
 
 void ReadFileWisard::ButtonOk_Click() {
+    const ReadAnswers answers{labels_.SpecialLb, labels_.TopRowLb, labels_.TopColumnLb,
+                              labels_.DelmLb.toStdString()};
+    const std::vector<Doubt> doubts = FindDoubts(lines_, answers);
+    if (!doubts.empty() && !(asker_ ? asker_ : AskToReadAnyway)(this, DoubtQuestion(doubts))) {
+        return;
+    }
     labels_.OkFlagLb = true;
     ClosePreview(Accepted);
 }
@@ -227,6 +320,7 @@ void ReadFileWisard::reject() {
 
 void ReadFileWisard::ClosePreview(int result) {
     sampleList_->clear();
+    lines_.clear();
     done(result);
 }
 

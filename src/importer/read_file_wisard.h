@@ -3,16 +3,22 @@
 // first column, the delimiter (and, when the caller wants it, a channel
 // number). The caller fills the labels, shows the dialog and reads the labels
 // back; one instance serves the whole program, so the answers are kept from
-// one use to the next.
+// one use to the next. A data file the transform window saved is known by its
+// first line and gets the answers that read it back; the kept answers return
+// with the next file of another kind.
 #pragma once
 
 #include <QDialog>
 #include <QString>
+#include <functional>
+#include <string>
+#include <vector>
 
 class QComboBox;
 class QLabel;
 class QListWidget;
 class QPushButton;
+class QRadioButton;
 
 namespace lapdesk {
 
@@ -46,8 +52,17 @@ class ReadFileWisard : public QDialog {
     bool ShowModal();
     const QString& ReadFailure() const { return readFailure_; }
 
+    // OK reads when the answers fit the file; when they look wrong, the
+    // question says why and the dialog stays open unless the user reads
+    // anyway.
     void ButtonOk_Click();
     void ButtonCalcel_Click();
+
+    // Asks whether to read although the answers look wrong (the text says
+    // why); true reads. The default shows a question with 読込む and 戻る,
+    // 戻る being the default button. Tests put their own answer here.
+    using Asker = std::function<bool(QWidget* parent, const QString& text)>;
+    void SetAsker(Asker asker) { asker_ = std::move(asker); }
 
   signals:
     // The lists are filled and the dialog is about to show.
@@ -61,7 +76,18 @@ class ReadFileWisard : public QDialog {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    // The answers a saved data file sets aside while it is shown.
+    struct KeptAnswers {
+        int SpecialLb;
+        int TopRowLb;
+        int TopColumnLb;
+        QString DelmLb;
+    };
+
     bool Activate();
+    void ChooseAnswersFor(bool savedFile);
+    void PreviewClicked(int row);
+    void ChooseRow(QListWidget* list, int row);
     void FillNumberList(QListWidget* list, int count, int answer);
     void MarkPreview();
     QListWidget* MakeNumberList(const char* name, int WisardLabels::*answer);
@@ -69,6 +95,13 @@ class ReadFileWisard : public QDialog {
 
     WisardLabels labels_;
     QString readFailure_;
+    std::vector<std::string> lines_;  // the whole file while it is shown
+    Asker asker_;
+    bool showingSavedFile_ = false;
+    KeptAnswers keptAnswers_{};  // set aside while a saved data file is shown
+    QLabel* savedFileNote_ = nullptr;
+    QRadioButton* clickSetsSpecial_ = nullptr;
+    QRadioButton* clickSetsTopRow_ = nullptr;
     QLabel* previewNote_ = nullptr;  // says that a long file is cut short
     QListWidget* sampleList_ = nullptr;
     QListWidget* specialRow_ = nullptr;

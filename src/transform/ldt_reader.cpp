@@ -2,13 +2,15 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cmath>
 #include <cstdint>
+#include <cstdio>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "fileio/text_file.h"
+#include "fileio/text_codec.h"
 #include "transform/split_numbers.h"
 #include "values/number_text.h"
 
@@ -28,11 +30,21 @@ struct LapData {
 static_assert(static_cast<std::size_t>(kLastFirstColumn) + 1 == std::tuple_size_v<NumberRow>);
 
 std::string LineText(std::size_t line) {
-    return "line " + std::to_string(line);
+    return std::to_string(line) + " 行目";
 }
 
-// What a line holds, quoted for a reason; a long line is cut after 40
-// characters (UTF-8 sequences are kept whole).
+// "2 行目（パラメータ行）": the line and what it is read as.
+std::string LineText(std::size_t line, std::string_view role) {
+    std::string text = LineText(line);
+    text.append("（").append(role).append("）");
+    return text;
+}
+
+constexpr std::string_view kParameterRole = "パラメータ行";
+constexpr std::string_view kDataRole = "データ";
+
+// What a line holds, quoted for a reason between 「」; a long line is cut
+// after 40 characters (UTF-8 sequences are kept whole) and ends in "…".
 std::string Found(std::string_view line) {
     constexpr std::size_t kShown = 40;
     std::size_t end = 0;
@@ -41,19 +53,22 @@ std::string Found(std::string_view line) {
             ++end;
         } while (end < line.size() && (static_cast<unsigned char>(line[end]) & 0xC0) == 0x80);
     }
-    std::string quoted(1, '"');
-    quoted.append(line.substr(0, end)).append(end < line.size() ? "...\"" : "\"");
+    std::string quoted = "「";
+    quoted.append(line.substr(0, end)).append(end < line.size() ? "…」" : "」");
     return quoted;
 }
 
 Outcome CheckAnswers(const ImportAnswers& answers) {
     if (answers.ParamLine < 1 || answers.DataLine < 1 || answers.FirstColumn < 1) {
-        return Outcome::Failure("line and column numbers start at 1");
+        return Outcome::Failure("行と列の番号は 1 から数えます（パラメータ行 " +
+                                std::to_string(answers.ParamLine) + "、データ開始行 " +
+                                std::to_string(answers.DataLine) + "、開始列 " +
+                                std::to_string(answers.FirstColumn) + " が指定されました）");
     }
     if (answers.FirstColumn > kLastFirstColumn) {
-        return Outcome::Failure("first column " + std::to_string(answers.FirstColumn) +
-                                ": the reader keeps 4 numbers per line, so the real part can "
-                                "stand in columns 1 to 3 only");
+        return Outcome::Failure("開始列 " + std::to_string(answers.FirstColumn) +
+                                " は読めません：1 行から読む数は 4 個までなので、実部の列は 1～3 "
+                                "にしてください");
     }
     return Outcome::Success();
 }
@@ -61,22 +76,25 @@ Outcome CheckAnswers(const ImportAnswers& answers) {
 // The parameter line: N (rounded to an integer), T and gamma0.
 Outcome ParseParameters(std::string_view line, std::size_t lineNumber, std::string_view delimiter,
                         NumberRow& row, LapData& data) {
+    const std::string where = LineText(lineNumber, kParameterRole);
     int count = 0;
-    if (!SplitNumbers(line, delimiter, 3, count, row) || count < 3) {
-        return Outcome::Failure(LineText(lineNumber) + ": expected N, T and gamma0, found " +
-                                std::to_string(count) + " numbers in " + Found(line));
+    if (!SplitNumbers(line, delimiter, 3, count, row)) {
+        return Outcome::Failure(where + "：N, T, γ0 の 3 個の数が要りますが、空行です");
+    }
+    if (count < 3) {
+        return Outcome::Failure(where + "：N, T, γ0 の 3 個の数が要りますが、" +
+                                std::to_string(count) + " 個しかありません：" + Found(line));
     }
     const double n = std::nearbyint(row[0]);
     if (!(n >= 128 && n <= 4096) || (static_cast<int>(n) & (static_cast<int>(n) - 1)) != 0) {
-        return Outcome::Failure(LineText(lineNumber) +
-                                ": N must be a power of two from 128 to 4096, not " +
-                                DoubleToText(row[0]) + " (column 1 of " + Found(line) + ")");
+        return Outcome::Failure(where +
+                                "：N は 128 から 4096 までの 2 のべき乗にしてください。1 列目は " +
+                                DoubleToText(row[0]) + " です：" + Found(line));
     }
     if (!(row[1] > 0.0 && std::isfinite(row[1])) || !(row[2] > 0.0 && std::isfinite(row[2]))) {
-        return Outcome::Failure(LineText(lineNumber) +
-                                ": T and gamma0 must be numbers greater than 0, found " +
-                                DoubleToText(row[1]) + " and " + DoubleToText(row[2]) +
-                                " in columns 2 and 3 of " + Found(line));
+        return Outcome::Failure(where + "：T と γ0 は 0 より大きい数にしてください。2 列目は " +
+                                DoubleToText(row[1]) + "、3 列目は " + DoubleToText(row[2]) +
+                                " です：" + Found(line));
     }
     data.N = static_cast<std::int16_t>(n);
     data.T = row[1];
@@ -89,22 +107,23 @@ Outcome ParseParameters(std::string_view line, std::size_t lineNumber, std::stri
 Outcome ParseSamples(const std::vector<std::string>& lines, std::size_t first,
                      const ImportAnswers& answers, NumberRow& row, LapData& data) {
     if (lines.size() < first + data.N) {
-        return Outcome::Failure("the file has " + std::to_string(lines.size()) + " lines, but " +
-                                std::to_string(data.N) + " data lines from " + LineText(first + 1) +
-                                " need " + std::to_string(first + data.N));
+        return Outcome::Failure("ファイルは " + std::to_string(lines.size()) +
+                                " 行しかありません：" + LineText(first + 1) +
+                                "から N = " + std::to_string(data.N) + " 行のデータを読むには " +
+                                std::to_string(first + data.N) + " 行要ります");
     }
     const int column = answers.FirstColumn - 1;
     for (std::size_t i = 0; i < static_cast<std::size_t>(data.N); ++i) {
         int count = 0;
         const std::string& line = lines[first + i];
+        const auto where = [&] { return LineText(first + i + 1, kDataRole); };
         if (!SplitNumbers(line, answers.Delimiter, answers.FirstColumn + 2, count, row)) {
-            return Outcome::Failure(LineText(first + i + 1) + ": no numbers, the line is blank");
+            return Outcome::Failure(where() + "：数がありません（空行です）");
         }
         for (const int at : {column, column + 1}) {
             if (!std::isfinite(row[at])) {
-                return Outcome::Failure(LineText(first + i + 1) +
-                                        ": a number is out of range in column " +
-                                        std::to_string(at + 1) + " of " + Found(line));
+                return Outcome::Failure(where() + "：" + std::to_string(at + 1) +
+                                        " 列目の数が大きすぎて読めません：" + Found(line));
             }
         }
         data.Re.push_back(row[column]);
@@ -120,8 +139,11 @@ Outcome ParseLapData(const std::vector<std::string>& lines, const ImportAnswers&
     if (Outcome checked = CheckAnswers(answers); !checked.ok) return checked;
     const auto paramLine = static_cast<std::size_t>(answers.ParamLine);
     if (lines.size() < paramLine) {
-        return Outcome::Failure("the file has " + std::to_string(lines.size()) +
-                                " lines and no parameter " + LineText(paramLine));
+        const std::string lineCount =
+            lines.empty() ? std::string("ファイルは空で")
+                          : "ファイルは " + std::to_string(lines.size()) + " 行しかなく";
+        return Outcome::Failure(lineCount + "、パラメータ行（" + LineText(paramLine) +
+                                "）がありません");
     }
     NumberRow row{};  // kept from line to line, as the reader always has
     Outcome parsed = ParseParameters(lines[paramLine - 1], paramLine, answers.Delimiter, row, data);
@@ -138,6 +160,71 @@ std::string QuotedPath(const std::filesystem::path& path) {
     return quoted;
 }
 
+// Why a file could not be opened or read, by the system's error number.
+std::string SystemFailure(int error, bool opening) {
+    switch (error) {
+        case ENOENT:
+            return "ファイルがありません";
+        case EACCES:
+        case EPERM:
+            return "ファイルを読む権限がありません";
+        case EISDIR:
+            return "フォルダなので読めません（ファイルを選んでください）";
+        default:
+            return std::string(opening ? "ファイルを開けません" : "ファイルを読めません") +
+                   "（システムのエラー番号 " + std::to_string(error) + "）";
+    }
+}
+
+struct FileBytes {
+    bool ok = false;
+    std::string bytes;
+    std::string reason;
+};
+
+FileBytes ReadBytes(const std::filesystem::path& path) {
+    std::FILE* file = std::fopen(path.c_str(), "rb");
+    if (file == nullptr) return {false, {}, SystemFailure(errno, true)};
+    FileBytes read{true, {}, {}};
+    char buffer[65536];
+    std::size_t n = 0;
+    while ((n = std::fread(buffer, 1, sizeof buffer, file)) > 0)
+        read.bytes.append(buffer, n);
+    if (std::ferror(file)) read = {false, {}, SystemFailure(errno, false)};
+    std::fclose(file);
+    return read;
+}
+
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
+// Why the bytes are neither UTF-8 nor cp932, by the first line that fails.
+// Line breaks are single bytes that no cp932 character contains, so the raw
+// bytes split into the same lines as the text.
+std::string DecodeFailure(std::string_view bytes) {
+    const bool marked = bytes.starts_with(kUtf8Mark);
+    if (marked) bytes.remove_prefix(kUtf8Mark.size());
+    const std::vector<std::string> lines = SplitLines(bytes);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (marked && !IsValidUtf8(lines[i])) {
+            return "UTF-8 の印（BOM）で始まるのに、" + LineText(i + 1) +
+                   "が UTF-8 として読めません";
+        }
+        if (!marked && !IsValidUtf8(lines[i]) && !Cp932ToUtf8(lines[i]).ok) {
+            return LineText(i + 1) + "に cp932 でも UTF-8 でもない文字があります";
+        }
+    }
+    if (!Cp932ToUtf8("A").ok) return "この環境には cp932 の文字変換がありません";
+    // Every line reads in one of the two codes, but not all in the same.
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (!Cp932ToUtf8(lines[i]).ok) {
+            return LineText(i + 1) +
+                   "は UTF-8 ですが、ほかの行は cp932 "
+                   "なので読めません（文字コードが混ざっています）";
+        }
+    }
+    return "cp932 でも UTF-8 でもない文字があります";
+}
+
 Outcome ReadFailed(TransformDriver& driver, std::string reason) {
     driver.SetStatus("データ読込み失敗");
     return Outcome::Failure(std::move(reason));
@@ -148,9 +235,11 @@ Outcome ReadFailed(TransformDriver& driver, std::string reason) {
 Outcome ReadLapData(TransformDriver& driver, const std::filesystem::path& path,
                     const ImportAnswers& answers) {
     driver.SetStatus("");
-    const LinesResult read = ReadTextLines(path);
-    if (!read.ok) return ReadFailed(driver, read.reason);
-    return ReadLapLines(driver, read.lines, QuotedPath(path), answers);
+    const FileBytes read = ReadBytes(path);
+    if (!read.ok) return ReadFailed(driver, QuotedPath(path) + "：" + read.reason);
+    const TextResult text = DecodeText(read.bytes);
+    if (!text.ok) return ReadFailed(driver, QuotedPath(path) + "：" + DecodeFailure(read.bytes));
+    return ReadLapLines(driver, SplitLines(text.text), QuotedPath(path), answers);
 }
 
 Outcome ReadLapLines(TransformDriver& driver, const std::vector<std::string>& lines,
@@ -159,7 +248,7 @@ Outcome ReadLapLines(TransformDriver& driver, const std::vector<std::string>& li
     LapData data;
     const Outcome parsed = ParseLapData(lines, answers, data);
     if (!parsed.ok) {
-        return ReadFailed(driver, std::string(source).append(": ").append(parsed.reason));
+        return ReadFailed(driver, std::string(source).append("：").append(parsed.reason));
     }
     driver.LoadFileData(data.N, data.T, data.Gamma0, data.Re, data.Im);
     driver.SetStatus("データ読込み成功");

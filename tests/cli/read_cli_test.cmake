@@ -45,7 +45,7 @@ expect_contains("${out}" "    128    ,  5.000E+00 ,   5.0\n" "stdout")
 # Failures of the read: exit 1 with the failure status and a reason.
 run_cli(1 read flat.Ldt --column 4)
 expect_contains("${err}" "データ読込み失敗" "stderr")
-expect_contains("${err}" "first column 4" "stderr")
+expect_contains("${err}" "開始列 4 は読めません" "stderr")
 run_cli(1 read missing.Ldt)
 expect_contains("${err}" "データ読込み失敗" "stderr")
 run_cli(1 read flat.Ldt --param-line 1)

@@ -4,17 +4,25 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QStringList>
 #include <QTest>
+#include <QTimer>
 #include <functional>
+#include <optional>
 #include <string>
 
+#include "fileio/text_codec.h"
+#include "importer/import_preview.h"
 #include "temp_folder.h"
+#include "transform/ldt_file.h"
 
 namespace lapdesk {
 namespace {
@@ -24,6 +32,15 @@ using testing_support::WriteBytes;
 
 class WisardTest : public ::testing::Test {
   protected:
+    // A question is answered by readAnyway; without one it is a failure.
+    WisardTest() {
+        wisard.SetAsker([this](QWidget*, const QString& text) {
+            questions << text;
+            if (!readAnyway) ADD_FAILURE() << "unexpected question: " << text.toStdString();
+            return readAnyway.value_or(false);
+        });
+    }
+
     template <typename T>
     T* Find(const char* name) {
         T* found = wisard.findChild<T*>(QString::fromLatin1(name));
@@ -45,9 +62,20 @@ class WisardTest : public ::testing::Test {
     }
 
     // A file of the given lines; its name goes into FileNameLb.
-    void UseFile(const std::string& text) {
-        WriteBytes(folder / "table.txt", text);
-        wisard.labels().FileNameLb = QString::fromStdString((folder / "table.txt").string());
+    void UseFile(const std::string& text, const std::string& name = "table.txt") {
+        WriteBytes(folder / name, text);
+        wisard.labels().FileNameLb = QString::fromStdString((folder / name).string());
+    }
+
+    // The answers the lists and the delimiter show.
+    QStringList Shown() {
+        return {Selected("SpecialRow"), Selected("TopRow"), Selected("TopColumn"),
+                Find<QComboBox>("DelimiterList")->currentText()};
+    }
+    QStringList Kept() {
+        const WisardLabels& labels = wisard.labels();
+        return {QString::number(labels.SpecialLb), QString::number(labels.TopRowLb),
+                QString::number(labels.TopColumnLb), labels.DelmLb};
     }
 
     // Shows the wizard; the answer runs once it is up and must close it.
@@ -83,7 +111,17 @@ class WisardTest : public ::testing::Test {
     TempFolder folder;
     ReadFileWisard wisard;
     bool answered = false;
+    QStringList questions;
+    std::optional<bool> readAnyway;
 };
+
+// A data file as the transform window saves it: N = 128 samples of 1/(s+1).
+std::string SavedDataFile() {
+    TransformDriver driver;
+    driver.SetWordNumber("128");
+    driver.MakeData([](const Complex& s) { return CplDiv({1, 0}, CplAdd(s, {1, 0})); });
+    return Utf8ToCp932(TransformFileText(driver, "F = 1 / (p + 1)")).text;
+}
 
 TEST_F(WisardTest, PreviewsTheFileAndOffersLinesAndColumns) {
     UseFile("Word Number,  Tend ,  Ganma\r\n    128    ,  5.000E+00 ,   5.0\r\n1,2\r\n");
@@ -139,7 +177,7 @@ TEST_F(WisardTest, ShowsOnlyTheFirst200LinesOfALongFile) {
 TEST_F(WisardTest, SelectsTheKeptAnswersAndKeepsNewOnes) {
     std::string text;
     for (int n = 1; n <= 20; ++n)
-        text += "0,0\r\n";
+        text += "0;0;0;0\r\n";
     UseFile(text);
     QStringList selected;
     EXPECT_TRUE(Show([&] {
@@ -315,6 +353,152 @@ TEST_F(WisardTest, OffersChannelsOnlyWhenAsked) {
     });
     EXPECT_EQ(channels, (QStringList{"1", "2", "3"}));
     EXPECT_EQ(wisard.labels().ChnoLb, 3);
+}
+
+// A saved data file is known by its first line, whatever its name, and shows
+// the answers that read it back; the answers kept from other files return
+// with the next one.
+TEST_F(WisardTest, ASavedDataFileGetsItsAnswersWhateverWasKept) {
+    std::string table = "my table\r\n";
+    for (int n = 1; n <= 20; ++n)
+        table += "0.5;1;2;3\r\n";
+    WriteBytes(folder / "table.txt", table);
+    std::string trimmed = SavedDataFile();
+    trimmed.replace(trimmed.find("Ganma \r\n"), 8, "Ganma\r\n");
+    WriteBytes(folder / "saved.Ldt", SavedDataFile());
+    WriteBytes(folder / "copy.txt", trimmed);
+
+    UseFile(table);
+    EXPECT_TRUE(Show([&] {
+        ClickRow("SpecialRow", 1);
+        ClickRow("TopRow", 9);
+        ClickRow("TopColumn", 2);
+        Find<QComboBox>("DelimiterList")->setCurrentIndex(2);
+        emit Find<QComboBox>("DelimiterList")->activated(2);
+        ClickOk();
+    }));
+    const QStringList tableAnswers{"2", "10", "3", ";"};
+    const QStringList savedAnswers{"2", "4", "1", ","};
+    ASSERT_EQ(Kept(), tableAnswers);
+
+    const struct {
+        const char* file;
+        QStringList shown;
+        bool noted;
+    } showings[] = {
+        {"saved.Ldt", savedAnswers, true},
+        {"table.txt", tableAnswers, false},
+        {"copy.txt", savedAnswers, true},
+        {"saved.Ldt", savedAnswers, true},
+    };
+    for (const auto& showing : showings) {
+        wisard.labels().FileNameLb = QString::fromStdString((folder / showing.file).string());
+        QStringList shown;
+        bool noted = !showing.noted;
+        EXPECT_TRUE(Show([&] {
+            shown = Shown();
+            noted = Find<QLabel>("SavedFileNote")->isVisible();
+            ClickOk();
+        })) << showing.file;
+        EXPECT_EQ(shown, showing.shown) << showing.file;
+        EXPECT_EQ(Kept(), showing.shown) << showing.file << ": the caller reads these";
+        EXPECT_EQ(noted, showing.noted) << showing.file;
+    }
+
+    EXPECT_TRUE(questions.isEmpty()) << questions.join("\n").toStdString();
+}
+
+// A click on a preview line sets the first data line, or the parameter line
+// when that is chosen beside the preview; the number lists follow.
+TEST_F(WisardTest, APreviewClickSetsTheChosenAnswer) {
+    std::string text;
+    for (int n = 1; n <= 12; ++n)
+        text += "0,1,2\r\n";
+    UseFile(text);
+    bool dataLineByDefault = false;
+    QStringList afterFirst, afterSecond;
+    Show([&] {
+        dataLineByDefault = Find<QRadioButton>("ClickSetsTopRow")->isChecked();
+        ClickRow("SampleList", 6);
+        afterFirst = QStringList{Selected("SpecialRow"), Selected("TopRow")} + Kept().mid(0, 2);
+        QTest::mouseClick(Find<QRadioButton>("ClickSetsSpecial"), Qt::LeftButton);
+        ClickRow("SampleList", 2);
+        afterSecond = QStringList{Selected("SpecialRow"), Selected("TopRow")} + Kept().mid(0, 2);
+        ClickCancel();
+    });
+    EXPECT_TRUE(dataLineByDefault);
+    EXPECT_EQ(afterFirst, (QStringList{"2", "7", "2", "7"}));
+    EXPECT_EQ(afterSecond, (QStringList{"3", "7", "3", "7"}));
+}
+
+// Answers that do not fit the file are questioned before the dialog closes:
+// going back leaves it open with nothing read, reading anyway closes it.
+TEST_F(WisardTest, QuestionsAnswersThatDoNotFitTheFile) {
+    const std::string indexed =
+        "k re im\r\n128 5 5\r\n0 0.5 0.1\r\n1 0.4 0.2\r\n2 0.3 0.3\r\n3 0.2 0.1\r\n";
+    const struct {
+        const char* name;
+        std::string file;
+        ReadAnswers answers;
+        const char* questionPart;
+    } rows[] = {
+        {"header as parameters",
+         "Word Number\r\n128,5,5\r\nRe,Im\r\n0.5,0.1\r\n",
+         {1, 4, 1, ","},
+         "パラメータ行（1 行目）"},
+        {"index column", indexed, {2, 3, 1, " "}, "次の 2 列目"},
+        {"wrong delimiter", indexed, {2, 3, 2, ","}, "区切り文字「スペース」なら読めます"},
+    };
+    for (const auto& row : rows) {
+        UseFile(row.file);
+        WisardLabels& labels = wisard.labels();
+        labels.SpecialLb = row.answers.paramLine;
+        labels.TopRowLb = row.answers.dataLine;
+        labels.TopColumnLb = row.answers.firstColumn;
+        labels.DelmLb = QString::fromStdString(row.answers.delimiter);
+        questions.clear();
+        readAnyway = false;
+        bool openAfterGoingBack = false;
+        EXPECT_FALSE(Show([&] {
+            ClickOk();
+            openAfterGoingBack = wisard.isVisible();
+            ClickCancel();
+        })) << row.name;
+        EXPECT_TRUE(openAfterGoingBack) << row.name;
+        ASSERT_EQ(questions.size(), 1) << row.name;
+        EXPECT_TRUE(questions.front().contains(QString::fromUtf8(row.questionPart)))
+            << questions.front().toStdString();
+
+        readAnyway = true;
+        EXPECT_TRUE(Show([&] { ClickOk(); })) << row.name;
+        EXPECT_TRUE(wisard.labels().OkFlagLb) << row.name;
+        EXPECT_EQ(questions.size(), 2) << row.name;
+    }
+}
+
+// The question itself goes back unless 読込む is chosen: Enter does not read.
+TEST_F(WisardTest, TheQuestionGoesBackByDefault) {
+    UseFile("Word Number\r\n128,5,5\r\nRe,Im\r\n0.5,0.1\r\n");
+    wisard.labels().SpecialLb = 1;
+    wisard.SetAsker(nullptr);
+    QString defaultButton, text;
+    bool openAfterEnter = false;
+    Show([&] {
+        // The box shows inside the OK click; it is answered from there.
+        QTimer::singleShot(100, &wisard, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr) << "no question showed";
+            defaultButton = box->defaultButton()->text();
+            text = box->text();
+            QTest::keyClick(box, Qt::Key_Return);
+        });
+        ClickOk();
+        openAfterEnter = wisard.isVisible();
+        ClickCancel();
+    });
+    EXPECT_EQ(defaultButton, QStringLiteral("戻る"));
+    EXPECT_TRUE(text.contains(QStringLiteral("パラメータ行（1 行目）"))) << text.toStdString();
+    EXPECT_TRUE(openAfterEnter);
 }
 
 }  // namespace

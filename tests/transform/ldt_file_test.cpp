@@ -173,10 +173,13 @@ TEST(ReadLapData, ShortDataLineKeepsThePreviousValues) {
 
 struct FailureRow {
     const char* name;
-    std::string file;  // "" for a file that does not exist
+    std::string file;  // kMissing and kFolder stand for no file and a folder
     ImportAnswers answers;
     std::string reasonPart;
 };
+
+const std::string kMissing = "<missing>";
+const std::string kFolder = "<folder>";
 
 std::string ValidFile() {
     TransformDriver driver = MadeDriver();
@@ -204,7 +207,11 @@ TEST_P(ReadFailures, LeaveTheDriverAsItWas) {
     const FailureRow& row = GetParam();
     TempFolder folder;
     const auto file = folder / "f.Ldt";
-    if (!row.file.empty()) WriteBytes(file, row.file);
+    if (row.file == kFolder) {
+        std::filesystem::create_directory(file);
+    } else if (row.file != kMissing) {
+        WriteBytes(file, row.file);
+    }
     TransformDriver driver;  // N 256 data from 1/(s+1), transformed
     ASSERT_TRUE(driver.MakeData(OneOverSPlusOne).ok);
     const SampleStore before = driver.Store();
@@ -228,20 +235,70 @@ TEST_P(ReadFailures, LeaveTheDriverAsItWas) {
 INSTANTIATE_TEST_SUITE_P(
     Files, ReadFailures,
     testing::Values(
-        FailureRow{"MissingFile", "", {}, "cannot open"},
-        FailureRow{"NotPowerOfTwo", WithParameterLine("100,5,5"), {}, "power of two"},
-        FailureRow{"NTooSmall", WithParameterLine("64,5,5"), {}, "power of two"},
-        FailureRow{"TZero", WithParameterLine("128,0,5"), {}, "greater than 0"},
-        FailureRow{"GammaText", WithParameterLine("128,5,abc"), {}, "greater than 0"},
-        FailureRow{"TwoParameters", WithParameterLine("128,5"), {}, "found 2 numbers"},
-        FailureRow{"HeaderAsParameters", ValidFile(), {1, 4, 1, ","}, "line 1: N must be"},
-        FailureRow{"ShortFile", ValidFile().substr(0, ValidFile().size() / 2), {}, "need 131"},
-        FailureRow{"NoParameterLine", ValidFile(), {200, 4, 1, ","}, "parameter line 200"},
-        FailureRow{"LineZero", ValidFile(), {0, 4, 1, ","}, "start at 1"},
-        FailureRow{"BlankDataLine", WithLine(9, "   "), {}, "line 10: no numbers"},
-        FailureRow{"HugeSample", WithLine(9, "1e400,0"), {}, "line 10: a number is out of range"},
-        FailureRow{"BadCp932", ValidFile() + "\x81\x20\r\n", {}, "cp932"},
-        FailureRow{"EmptyFile", "\r\n", {}, "no parameter line 2"}),
+        FailureRow{"MissingFile", kMissing, {}, "f.Ldt'：ファイルがありません"},
+        FailureRow{"Folder", kFolder, {}, "フォルダなので読めません"},
+        FailureRow{"NotPowerOfTwo",
+                   WithParameterLine("100,5,5"),
+                   {},
+                   "2 行目（パラメータ行）：N は 128 から 4096 までの 2 のべき乗にしてください。"
+                   "1 列目は 100 です：「100,5,5」"},
+        FailureRow{"NTooSmall", WithParameterLine("64,5,5"), {}, "1 列目は 64 です"},
+        FailureRow{"TZero",
+                   WithParameterLine("128,0,5"),
+                   {},
+                   "2 行目（パラメータ行）：T と γ0 は 0 より大きい数にしてください。2 列目は "
+                   "0、3 列目は 5 です：「128,0,5」"},
+        FailureRow{"GammaText", WithParameterLine("128,5,abc"), {}, "3 列目は 0 です"},
+        FailureRow{"TwoParameters",
+                   WithParameterLine("128,5"),
+                   {},
+                   "2 行目（パラメータ行）：N, T, γ0 の 3 個の数が要りますが、2 個しかありません："
+                   "「128,5」"},
+        FailureRow{"BlankParameterLine", WithParameterLine("   "), {}, "要りますが、空行です"},
+        FailureRow{
+            "HeaderAsParameters", ValidFile(), {1, 4, 1, ","}, "1 行目（パラメータ行）：N は"},
+        FailureRow{"LongLineCut",
+                   WithParameterLine("1" + std::string(50, '0') + ",5,5"),
+                   {},
+                   "：「1" + std::string(39, '0') + "…」"},
+        FailureRow{"ShortFile",
+                   ValidFile().substr(0, ValidFile().size() / 2),
+                   {},
+                   "行しかありません：4 行目から N = 128 行のデータを読むには 131 行要ります"},
+        FailureRow{"NoParameterLine",
+                   ValidFile(),
+                   {200, 4, 1, ","},
+                   "ファイルは 131 行しかなく、パラメータ行（200 行目）がありません"},
+        FailureRow{"LineZero",
+                   ValidFile(),
+                   {0, 4, 1, ","},
+                   "行と列の番号は 1 から数えます（パラメータ行 0、データ開始行 4、開始列 1"},
+        FailureRow{"ColumnFour", ValidFile(), {2, 4, 4, ","}, "開始列 4 は読めません"},
+        FailureRow{"BlankDataLine",
+                   WithLine(9, "   "),
+                   {},
+                   "10 行目（データ）：数がありません（空行です）"},
+        FailureRow{"HugeSample",
+                   WithLine(9, "0,1e400"),
+                   {},
+                   "10 行目（データ）：2 列目の数が大きすぎて読めません：「0,1e400」"},
+        FailureRow{"BadCp932",
+                   ValidFile() + "\x81\x20\r\n",
+                   {},
+                   "132 行目に cp932 でも UTF-8 でもない文字があります"},
+        FailureRow{"MarkedButNotUtf8",
+                   "\xEF\xBB\xBF" + ValidFile() + "\x83\x66\r\n",
+                   {},
+                   "UTF-8 の印（BOM）で始まるのに、132 行目が UTF-8 として読めません"},
+        FailureRow{"MixedCodes",
+                   ValidFile() + "あ\r\n\x83\x66\r\n",
+                   {},
+                   "132 行目は UTF-8 ですが、ほかの行は cp932 なので読めません"},
+        FailureRow{"EmptyFile", "", {}, "ファイルは空で、パラメータ行（2 行目）がありません"},
+        FailureRow{"OneEmptyLine",
+                   "\r\n",
+                   {},
+                   "ファイルは 1 行しかなく、パラメータ行（2 行目）がありません"}),
     [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace

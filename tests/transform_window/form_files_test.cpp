@@ -79,8 +79,8 @@ TEST_F(FilesTest, AFailedReadSaysWhereAndWhatWasFound) {
         bool wisardShows;
         const char* reason;
     } rows[] = {
-        {"Word Number\r\n    128    ,5\r\n", true, "found 2 numbers in \"    128    ,5\""},
-        {hugeFirstSample, true, "line 4: a number is out of range in column 2 of \"0,1e400\""},
+        {"Word Number\r\n    128    ,5\r\n", true, "2 個しかありません：「    128    ,5」"},
+        {hugeFirstSample, true, "4 行目（データ）：2 列目の数が大きすぎて読めません：「0,1e400」"},
         {"Word Number\r\n\x81\x20\r\n", false, "cp932"},
     };
     for (const auto& row : rows) {
