@@ -4,11 +4,23 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 #include "calculator/calculator_dialogs.h"
 #include "calculator/program_files.h"
 
 namespace lapdesk {
+
+namespace {
+
+QString StartingFolder() {
+    const QString own = QCoreApplication::applicationDirPath();
+    if (QFileInfo(own).isWritable()) return own;
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(documents).isDir() ? documents : QDir::homePath();
+}
+
+}  // namespace
 
 bool FileNameChooser::Choose(QWidget* parent, QString& fileName, std::int16_t mode) {
     if (mode != kOpenProgramDialog && mode != kSaveProgramDialog) return false;
@@ -34,19 +46,23 @@ bool FileNameChooser::Choose(QWidget* parent, QString& fileName, std::int16_t mo
 }
 
 QString FileNameChooser::ChooseFile(QWidget* parent, FileDialogKind kind, const QString& title,
-                                    const QString& fileName, const QString& selectedFilter) {
-    const QString chosen =
-        dialogs_.ChooseFile(parent, kind, title, InitialPath(fileName, kind),
-                            DialogFilter(QString::fromLatin1(kFileFilter)), selectedFilter);
+                                    const QString& fileName, const QString& selectedFilter,
+                                    const QString& filterList) {
+    const QString filters =
+        filterList.isEmpty() ? DialogFilter(QString::fromLatin1(kFileFilter)) : filterList;
+    const QString chosen = dialogs_.ChooseFile(parent, kind, title, InitialPath(fileName, kind),
+                                               filters, selectedFilter);
     if (!chosen.isEmpty()) lastDirectory_ = QFileInfo(chosen).path();
     return chosen;
 }
 
 // The given name's folder when it has one, else the last folder used, else
-// the program's own folder. Only a save dialog gets the name as well: in an
-// open dialog it would narrow the list to that one file.
+// the program's own folder, or the user's documents when the program's
+// folder cannot be written (an installed program lives in /usr/bin). Only a
+// save dialog gets the name as well: in an open dialog it would narrow the
+// list to that one file.
 QString FileNameChooser::InitialPath(const QString& fileName, FileDialogKind kind) {
-    if (appDirectory_.isEmpty()) appDirectory_ = QCoreApplication::applicationDirPath();
+    if (appDirectory_.isEmpty()) appDirectory_ = StartingFolder();
     const QFileInfo info(fileName);
     const bool hasFolder = fileName.contains('/');
     const QString folder = hasFolder                   ? info.path()

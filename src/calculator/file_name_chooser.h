@@ -25,11 +25,14 @@ class FileNameChooser {
     bool Choose(QWidget* parent, QString& fileName, std::int16_t mode);
 
     // Any file dialog of the program, with the filter entry that names the
-    // command's files (e.g. "Data(*.Ldt)") chosen. Open dialogs start in a
-    // folder, save dialogs with the given name in it; both remember the
-    // folder of the chosen file. "" when cancelled.
+    // command's files (e.g. "Data(*.Ldt)") chosen from the shared filter
+    // list, or from the given list (Qt's "A(*.a);;B(*.b)" form) for files of
+    // other kinds. Open dialogs start in a folder, save dialogs with the
+    // given name in it; both remember the folder of the chosen file. "" when
+    // cancelled.
     QString ChooseFile(QWidget* parent, FileDialogKind kind, const QString& title,
-                       const QString& fileName, const QString& selectedFilter);
+                       const QString& fileName, const QString& selectedFilter,
+                       const QString& filterList = QString());
 
     const QString& fileErrorText() const { return fileErrorText_; }
     void SetFileErrorText(const QString& text) { fileErrorText_ = text; }

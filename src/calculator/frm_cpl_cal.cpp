@@ -2,9 +2,12 @@
 // mouse gestures, on-screen keyboard and language options.
 #include "calculator/frm_cpl_cal.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -31,18 +34,41 @@ void FrmCplCal::ButtonEnter_Click() {
     const ImmediateResult result =
         interpreter_.ImmediateLine(imidateTextBox_->text().trimmed().toStdString());
     immediateOk_ = result.ok;
+    kaiFromProgram_ = false;
+    historyRow_ = -1;
     if (result.ok) {
         Complex value = result.value;
         kai_->SetFullText(QString::fromStdString(ComplexToText(value, RoundedDisplay())));
     } else {
         kai_->SetFullText(QStringLiteral("Error"));
+        // Why, in the interpreter's words, where the eye goes next.
+        statusBar()->showMessage(QString::fromStdString(result.reason));
     }
-    histryList_->insertItem(0, HistoryEntry(imidateTextBox_->text(), kai_->FullText()));
+    const QString entry = HistoryEntry(imidateTextBox_->text(), kai_->FullText());
+    histryList_->insertItem(0, entry);
+    histryList_->item(0)->setToolTip(entry);  // a long line, read whole
     histryList_->setCurrentRow(0);
     if (memory_->isVisible()) memory_->CommandReShowMemorys_Click();
     // The next line is typed where this one was, whether it came by Enter
     // or by the "=" button, and whatever the memory display did.
     imidateTextBox_->setFocus();
+}
+
+// Up recalls the next older line of the history into the immediate line,
+// Down the next newer one, and past the newest an empty line.
+bool FrmCplCal::HistoryKey(int key) {
+    if ((key != Qt::Key_Up && key != Qt::Key_Down) || histryList_->count() == 0) return false;
+    const int row =
+        key == Qt::Key_Up ? std::min(historyRow_ + 1, histryList_->count() - 1) : historyRow_ - 1;
+    historyRow_ = std::max(row, -1);
+    if (historyRow_ < 0) {
+        imidateTextBox_->clear();
+        histryList_->clearSelection();
+        return true;
+    }
+    histryList_->setCurrentRow(historyRow_);
+    imidateTextBox_->setText(RecallFromHistory(histryList_->item(historyRow_)->text()));
+    return true;
 }
 
 // Shift alone: smaller; Ctrl alone: recall the entry; otherwise larger.
@@ -88,9 +114,11 @@ void FrmCplCal::Errmessage(const std::string& message) {
     messageBox_->setText(text);
     messageBase_->show();
     messageBase_->raise();
-    // The message can only be dismissed where it can be seen.
+    // The message can only be dismissed where it can be seen: in front,
+    // also when the run was started from the transform window.
     if (!isVisible()) show();
     raise();
+    activateWindow();
     if (location) MarkErrorLocation(*location);
     HoldInputForMessage(true);
     emit messageShown(text);
@@ -150,8 +178,13 @@ void FrmCplCal::closeEvent(QCloseEvent* event) {
     event->accept();
 }
 
+// What a program run left in kai belongs to program mode.
 void FrmCplCal::OptionNomal_Click() {
     programMode_ = false;
+    if (kaiFromProgram_) {
+        kai_->SetFullText(QString());
+        kaiFromProgram_ = false;
+    }
     histryList_->show();
     programFrame_->hide();
     // The list's own visibility: its frame may already be hidden.
@@ -205,6 +238,9 @@ void FrmCplCal::SetActiveBox(bool program) {
 // and clicks the window reacts to.
 bool FrmCplCal::eventFilter(QObject* watched, QEvent* event) {
     const QEvent::Type type = event->type();
+    if (type == QEvent::KeyPress && watched == imidateTextBox_) {
+        return HistoryKey(static_cast<QKeyEvent*>(event)->key());
+    }
     if (type == QEvent::FocusIn) {
         if (watched == imidateTextBox_ || watched == programText_) {
             SetActiveBox(watched == programText_);

@@ -98,6 +98,10 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     void MenueTesmorSample_Click(int index);
     const QString& FileErrorText() const { return files_.fileErrorText(); }
     const QString& ProgramFileName() const { return programFileName_; }
+    // Before the program text is replaced or the program ends: when the text
+    // has changed since it was read or saved, asks whether to save it. False
+    // when the user cancels (or the save failed): nothing is to be dropped.
+    bool ConfirmDiscard();
     // The file dialogs with the last folder used, shared with the transform
     // window so that both start where the user last was.
     FileNameChooser& FileNames() { return files_; }
@@ -138,6 +142,8 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     // An error message is shown and waits to be double-clicked away.
     void messageShown(const QString& message);
     void messageDismissed();
+    // The progress meter was reset to a width or advanced to a value.
+    void meterChanged(double value, bool reset);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -178,6 +184,9 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     void InsertChannelWord(QMenu* menu, int index);
     void ShowFilledChannelMenus();
     void ShowFileOutcome(const QString& done);
+    void ShowTitle();
+    void MarkProgramSaved();
+    bool HistoryKey(int key);
 
     Interpreter interpreter_;
     std::unique_ptr<CalculatorDialogs> dialogs_;
@@ -230,6 +239,8 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     QPoint pressedAt_;
     bool mouseShiftOnly_ = false;
     bool immediateOk_ = false;
+    bool kaiFromProgram_ = false;  // kai shows what a program run left
+    int historyRow_ = -1;          // the entry Up and Down last recalled
     bool messageWaiting_ = false;
     bool stopRequested_ = false;
     bool stopPressed_ = false;  // the stop button ended the present run

@@ -12,6 +12,7 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 #include "calculator/code_editor.h"
@@ -56,7 +57,6 @@ FrmCplCal::FrmCplCal(std::unique_ptr<CalculatorDialogs> dialogs, QWidget* parent
       activeBox_(static_cast<QLineEdit*>(nullptr)) {
     InitVocabulary();
     setObjectName(QStringLiteral("FrmCplCal"));
-    setWindowTitle(QStringLiteral("複素数計算機"));
 
     QWidget* column = BuildColumn();
     memory_ = new MemoryPanel(interpreter_, [this] { return RoundedDisplay(); });
@@ -80,6 +80,9 @@ FrmCplCal::FrmCplCal(std::unique_ptr<CalculatorDialogs> dialogs, QWidget* parent
     activeBox_ = ActiveTextBox(imidateTextBox_);
     optionNomal_->setChecked(true);
     SetPhaseColour(0x80FFFF);
+    connect(programText_->document(), &QTextDocument::modificationChanged, this,
+            &FrmCplCal::ShowTitle);
+    ShowTitle();
     resize(960, 720);
 }
 
@@ -121,9 +124,9 @@ QWidget* FrmCplCal::BuildColumn() {
     QFont historyFont = histryList_->font();
     historyFont.setPointSize(11);
     histryList_->setFont(historyFont);
-    histryList_->setToolTip(
-        QStringLiteral("ダブルクリック: 文字を大きく，Shift+ダブルクリック: "
-                       "小さく，Ctrl+ダブルクリック: 式を呼び出す"));
+    histryList_->setToolTip(QStringLiteral(
+        "ダブルクリック: 文字を大きく，Shift+ダブルクリック: "
+        "小さく，Ctrl+ダブルクリック: 式を呼び出す（計算行で ↑↓ でも呼び出せます）"));
     layout->addWidget(histryList_, 1);
     layout->addWidget(BuildProgramFrame(), 1);
     keyboard_ = new OnScreenKeyboard;

@@ -1,4 +1,5 @@
 // Program files and sample programs in the calculator window.
+#include <QFileInfo>
 #include <QRadioButton>
 #include <QStatusBar>
 #include <QTextCursor>
@@ -27,11 +28,16 @@ bool FrmCplCal::SetFileNameCAL(QString& fileName, std::int16_t mode) {
     return files_.Choose(this, fileName, mode);
 }
 
+// A file that could not be read leaves the text and its name as they were.
 void FrmCplCal::MenueReadProgram_Click() {
+    if (!ConfirmDiscard()) return;
     QString name = programFileName_;
     if (!SetFileNameCAL(name, kOpenProgramDialog)) return;
-    programFileName_ = name;
     ReadTextFile(name, programText_);
+    if (files_.fileErrorText().isEmpty()) {
+        programFileName_ = name;
+        MarkProgramSaved();
+    }
     programText_->setFocus();
     ShowFileOutcome(QStringLiteral("読み込みました: ") + name);
 }
@@ -41,6 +47,7 @@ void FrmCplCal::MenueWriteProgram_Click() {
     if (!SetFileNameCAL(name, kSaveProgramDialog)) return;
     programFileName_ = name;
     WriteTextFile(name, programText_);
+    if (files_.fileErrorText().isEmpty()) MarkProgramSaved();
     ShowFileOutcome(QStringLiteral("保存しました: ") + name);
 }
 
@@ -51,7 +58,35 @@ void FrmCplCal::MenueWriteOverProgram_Click() {
         return;
     }
     WriteTextFile(programFileName_, programText_);
+    if (files_.fileErrorText().isEmpty()) MarkProgramSaved();
     ShowFileOutcome(QStringLiteral("保存しました: ") + programFileName_);
+}
+
+bool FrmCplCal::ConfirmDiscard() {
+    if (!programText_->document()->isModified() || programText_->document()->isEmpty()) {
+        return true;
+    }
+    const QMessageBox::StandardButton answer = dialogs_->Ask(
+        this, windowTitle(), QStringLiteral("プログラムは変更されています。保存しますか"),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    if (answer == QMessageBox::Discard) return true;
+    if (answer != QMessageBox::Save) return false;
+    MenueWriteOverProgram_Click();
+    return !programText_->document()->isModified();
+}
+
+void FrmCplCal::MarkProgramSaved() {
+    programText_->document()->setModified(false);
+    ShowTitle();
+}
+
+// The file the text belongs to ("無題" for none: a new text or a sample),
+// and a mark while it differs from that file.
+void FrmCplCal::ShowTitle() {
+    const QString name = programFileName_.isEmpty() ? QStringLiteral("無題")
+                                                    : QFileInfo(programFileName_).fileName();
+    setWindowTitle(QStringLiteral("複素数計算機 - ") + name + QStringLiteral("[*]"));
+    setWindowModified(programText_->document()->isModified());
 }
 
 void FrmCplCal::ReadTextFile(const QString& fileName, QPlainTextEdit* box) {
@@ -71,7 +106,7 @@ void FrmCplCal::WriteTextFile(const QString& fileName, QPlainTextEdit* box) {
 void FrmCplCal::ShowFileOutcome(const QString& done) {
     const QString& error = files_.fileErrorText();
     statusBar()->showMessage(error.isEmpty() ? done : error);
-    setWindowTitle(QStringLiteral("複素数計算機 - ") + programFileName_);
+    ShowTitle();
 }
 
 void FrmCplCal::MenueSample_Click(int index) {
@@ -81,12 +116,16 @@ void FrmCplCal::MenueTesmorSample_Click(int index) {
     LoadSample(TransformSamples(), index);
 }
 
-// An index past the samples loads the first one.
+// An index past the samples loads the first one. A sample belongs to no
+// file: saving it asks for a name, so it never lands on the user's program.
 void FrmCplCal::LoadSample(const std::vector<SampleProgram>& samples, int index) {
+    if (!ConfirmDiscard()) return;
     const std::size_t k = index >= 0 && static_cast<std::size_t>(index) < samples.size()
                               ? static_cast<std::size_t>(index)
                               : 0;
     ReplaceText(programText_, QString::fromUtf8(samples[k].text));
+    programFileName_.clear();
+    MarkProgramSaved();
     ShowProgramMode();
 }
 

@@ -116,8 +116,13 @@ void FrmCplCal::UpdateEnabled() {
     memory_->setEnabled(!runWaits);
 }
 
+// The execution list belongs to the text it was made from.
 void FrmCplCal::ProgramText_Change() {
-    statementLines_.clear();
+    if (running_) {
+        statementLines_.clear();
+    } else {
+        ClearProgramList();
+    }
     interpreter_.SetProgramText(EditorTextToProgram(programText_->toPlainText()).toStdString());
 }
 
@@ -185,6 +190,7 @@ void FrmCplCal::SelectProgramListEntry(std::int16_t index) {
 
 void FrmCplCal::SetKai(const std::string& text) {
     kai_->SetFullText(QString::fromStdString(text));
+    kaiFromProgram_ = true;
 }
 
 void FrmCplCal::ShowHint(const std::string& text) {
@@ -212,6 +218,7 @@ void FrmCplCal::ClearMemoryDisplay() {
 }
 
 void FrmCplCal::CalProcMeter(double value, bool reset) {
+    emit meterChanged(value, reset);
     if (reset) {
         meter_->Reset(value);
         prgRningBox_->show();

@@ -80,7 +80,7 @@ int RunInvert(const InvertOptions& options) {
     // The singularity check runs on every inversion, the band unless --fast
     // (the accurate inversion always has it beside it).
     const AccuracyReport report = RunAccuracyChecksOnProgram(
-        driver, session, {options.error || !options.fast, accurate, AccurateParameters{}});
+        driver, session, {options.error || !options.fast, accurate, AccurateParameters{}, {}});
     const int warnings = PrintAccuracyReport(report, driver);
     if (report.stopped) {
         std::cerr << "プログラム実行中断\n";

@@ -94,6 +94,11 @@ bool TransformDriver::SetWordNumber(std::string_view text) {
     return true;
 }
 
+void TransformDriver::SetHaning(bool on) {
+    if (haningOn_ != on) MarkDataInvalid();
+    haningOn_ = on;
+}
+
 bool TransformDriver::SetTend(std::string_view text) {
     std::string label;
     if (!PositiveNumberText(text, label)) return false;

@@ -60,11 +60,12 @@ class TransformDriver {
     // Parameter entry. N must be one of kWrdList; T and gamma0 must be numbers
     // greater than 0. A rejected text changes nothing and returns false. A new
     // value sets ResultLb and DataSourceLb to "Non": data made for other
-    // parameters are no longer valid.
+    // parameters are no longer valid. So does turning the Hanning taper on or
+    // off: the samples were tapered, or not, when they were made.
     bool SetWordNumber(std::string_view text);
     bool SetTend(std::string_view text);
     bool SetGanma(std::string_view text);
-    void SetHaning(bool on) { haningOn_ = on; }
+    void SetHaning(bool on);
 
     const std::string& WordNumberLb() const { return wordNumberLb_; }
     const std::string& TendLb() const { return tendLb_; }

@@ -113,5 +113,50 @@ TEST_F(FilesTest, SamplesSwitchToProgramMode) {
     EXPECT_EQ(Editor()->toPlainText(), QString::fromUtf8(GeneralSamples()[1].text));
 }
 
+// The title names the file and marks a changed text; a sample belongs to no
+// file, so saving it asks for a name instead of replacing the user's program.
+TEST_F(FilesTest, ASampleLoadsUntitledAndTheTitleMarksChanges) {
+    const QString path = folder.filePath(QStringLiteral("mine.Prg"));
+    SetProgram(QStringLiteral("Return 1\nEnd"));
+    script->files = {path};
+    Action("MenueWriteProgram")->trigger();
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("複素数計算機 - mine.Prg[*]"));
+    EXPECT_FALSE(window->isWindowModified());
+    Editor()->appendPlainText(QStringLiteral("' edited"));
+    EXPECT_TRUE(window->isWindowModified());
+    script->answers = {QMessageBox::Save};
+    window->MenueSample_Click(1);
+    EXPECT_EQ(Bytes(path), QByteArray("Return 1\r\nEnd\r\n' edited\r\n")) << "saved first";
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("複素数計算機 - 無題[*]"));
+    EXPECT_FALSE(window->isWindowModified());
+    EXPECT_TRUE(window->ProgramFileName().isEmpty());
+    script->files = {};
+    Action("MenueWriteOverProgram")->trigger();
+    EXPECT_EQ(script->dialogTitles.last(), QStringLiteral("プログラムファイルを保存"))
+        << "an untitled text asks for a name";
+    EXPECT_EQ(Bytes(path), QByteArray("Return 1\r\nEnd\r\n' edited\r\n"));
+}
+
+TEST_F(FilesTest, ChangesAreNotDroppedUnasked) {
+    SetProgram(QStringLiteral("Return 2\nEnd"));
+    const struct {
+        QMessageBox::StandardButton answer;
+        bool replaced;
+    } rows[] = {{QMessageBox::Cancel, false}, {QMessageBox::Discard, true}};
+    for (const auto& row : rows) {
+        Editor()->setPlainText(QStringLiteral("Return 2"));
+        Editor()->appendPlainText(QStringLiteral("End"));  // as typed: a change
+        script->answers = {row.answer};
+        script->questions.clear();
+        window->MenueTesmorSample_Click(0);
+        EXPECT_EQ(script->questions,
+                  QStringList{QStringLiteral("プログラムは変更されています。保存しますか")});
+        EXPECT_EQ(Editor()->toPlainText() != QStringLiteral("Return 2\nEnd"), row.replaced);
+    }
+    script->questions.clear();
+    window->MenueTesmorSample_Click(0);
+    EXPECT_TRUE(script->questions.isEmpty()) << "an unchanged sample goes without a question";
+}
+
 }  // namespace
 }  // namespace lapdesk::testing

@@ -1,6 +1,7 @@
 // The immediate line, its history gestures, the result label and the error
 // message panel.
 #include <QApplication>
+#include <QStatusBar>
 
 #include "calculator/elided_label.h"
 #include "window_fixture.h"
@@ -162,6 +163,41 @@ TEST_F(ImmediateLineTest, OneDoubleClickEndsNestedWaits) {
     EXPECT_TRUE(innerReturned);
     EXPECT_EQ(shownWhenDismissed, QStringLiteral("second"));
     EXPECT_FALSE(window->MessageWaiting());
+}
+
+TEST_F(ImmediateLineTest, AFailedLineShowsItsOwnReason) {
+    const struct {
+        const char* line;
+        const char* reason;  // on the status line; "" for none
+    } rows[] = {
+        {"1/0", "0 で除算しました。"},
+        {"(1+2", "括弧が閉じていません"},
+        {"1+1", ""},
+        {"Sin(pi/2)", "「pi」は定義されていません（円周率は PAI または π）"},
+    };
+    for (const auto& row : rows) {
+        TypeLine(QString::fromUtf8(row.line));
+        EXPECT_EQ(window->statusBar()->currentMessage(), QString::fromUtf8(row.reason)) << row.line;
+    }
+}
+
+// Up walks to older lines, Down back to newer ones and past the newest to an
+// empty line; the entry recalled is the line as typed.
+TEST_F(ImmediateLineTest, UpAndDownWalkTheHistory) {
+    for (const char* line : {"1+1", "a = 3", "a*2"})
+        TypeLine(QString::fromUtf8(line));
+    const struct {
+        Qt::Key key;
+        const char* shown;
+    } steps[] = {{Qt::Key_Up, "a*2"}, {Qt::Key_Up, "a = 3"},   {Qt::Key_Up, "1+1"},
+                 {Qt::Key_Up, "1+1"}, {Qt::Key_Down, "a = 3"}, {Qt::Key_Down, "a*2"},
+                 {Qt::Key_Down, ""}};
+    for (const auto& step : steps) {
+        QTest::keyClick(Immediate(), step.key);
+        EXPECT_EQ(Immediate()->text(), QString::fromUtf8(step.shown));
+    }
+    EXPECT_EQ(Find<QListWidget>("HistryList")->item(0)->toolTip(), QStringLiteral("a*2 = 6"))
+        << "a long entry can be read whole";
 }
 
 }  // namespace

@@ -23,7 +23,7 @@ QString ScriptedDialogs::ChooseFile(QWidget*, FileDialogKind, const QString& tit
     script_->initialPaths << initialPath;
     script_->selectedFilters << selectedFilter;
     EXPECT_TRUE(filter.split(QStringLiteral(";;")).contains(selectedFilter)) << "no such filter";
-    EXPECT_EQ(filter, QStringLiteral("Program(*.Prg);;Data(*.Ldt);;Text(*.Txt);;All(*.*)"));
+    script_->filterLists << filter;
     if (script_->files.empty()) return QString();
     const QString file = script_->files.front();
     script_->files.pop_front();

@@ -29,6 +29,7 @@ struct Script {
     QStringList dialogTitles;
     QStringList initialPaths;
     QStringList selectedFilters;
+    QStringList filterLists;  // the whole filter list of each dialog
 };
 
 class ScriptedDialogs : public CalculatorDialogs {

@@ -53,8 +53,8 @@ TEST(ParameterEntry, AcceptsOnlyValidTexts) {
     }
 }
 
-// A new value makes the data and the result stale; the same value again, a
-// rejected text or the Hanning switch keep them.
+// A new value (the Hanning switch too) makes the data and the result stale;
+// the same value again or a rejected text keep them.
 TEST(ParameterEntry, OnlyANewValueInvalidatesDataAndResult) {
     const struct {
         const char* name;
@@ -66,7 +66,8 @@ TEST(ParameterEntry, OnlyANewValueInvalidatesDataAndResult) {
                 {"same N", [](TransformDriver& d) { d.SetWordNumber("256"); }, false},
                 {"same T", [](TransformDriver& d) { d.SetTend("5.0"); }, false},
                 {"rejected gamma", [](TransformDriver& d) { d.SetGanma("0"); }, false},
-                {"Hanning", [](TransformDriver& d) { d.SetHaning(false); }, false}};
+                {"Hanning off", [](TransformDriver& d) { d.SetHaning(false); }, true},
+                {"Hanning on again", [](TransformDriver& d) { d.SetHaning(true); }, false}};
     for (const auto& row : rows) {
         TransformDriver driver;
         ASSERT_TRUE(driver.MakeData(OneOverSPlusOne).ok);

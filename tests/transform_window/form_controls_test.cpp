@@ -129,8 +129,8 @@ TEST_F(ControlsTest, StartsWithTheDefaultsAndALinkedCalculator) {
 }
 
 // The calculator opens beside the transform window (screen 0..1999 wide,
-// main window 1000 wide, calculator 600 wide, 8 apart).
-TEST(WindowPlacement, TheCalculatorStandsBesideThePlot) {
+// main window 1000 wide, calculator 600 wide and at least 400, 8 apart).
+TEST(WindowPlacement, TheCalculatorNeverCoversTheCommands) {
     const QRect screen(0, 0, 2000, 1000);
     const struct {
         const char* name;
@@ -138,19 +138,24 @@ TEST(WindowPlacement, TheCalculatorStandsBesideThePlot) {
         int mainWidth;
         QPoint main;
         QPoint beside;
+        int besideWidth;
     } rows[] = {
-        {"room on the right", 100, 1000, {100, 50}, {1108, 50}},
-        {"room on the left", 900, 1000, {900, 50}, {292, 50}},
-        {"the main window moves over", 500, 1000, {196, 50}, {1204, 50}},
-        {"no room for both", 500, 1600, {0, 50}, {1400, 50}},
+        {"room on the right", 100, 1000, {100, 50}, {1108, 50}, 600},
+        {"room on the left", 900, 1000, {900, 50}, {292, 50}, 600},
+        {"the main window moves over", 500, 1000, {196, 50}, {1204, 50}, 600},
+        {"narrowed to fit on the left", 500, 1500, {500, 50}, {0, 50}, 492},
+        {"narrowed, the main window moves over", 300, 1500, {0, 50}, {1508, 50}, 492},
+        {"over the plot, not the commands", 100, 1700, {300, 50}, {0, 50}, 400},
     };
     for (const auto& row : rows) {
-        const WindowPlacement place =
-            PlaceBeside(QRect(row.mainLeft, 50, row.mainWidth, 700), QSize(600, 700), screen, 8);
+        const WindowPlacement place = PlaceBeside(QRect(row.mainLeft, 50, row.mainWidth, 700),
+                                                  QSize(600, 700), 400, screen, 8);
         EXPECT_EQ(place.main, row.main) << row.name;
         EXPECT_EQ(place.beside, row.beside) << row.name;
+        EXPECT_EQ(place.besideWidth, row.besideWidth) << row.name;
     }
-    EXPECT_EQ(PlaceBeside(QRect(100, 600, 1000, 700), QSize(600, 700), screen, 8).beside.y(), 300)
+    EXPECT_EQ(PlaceBeside(QRect(100, 600, 1000, 700), QSize(600, 700), 400, screen, 8).beside.y(),
+              300)
         << "kept on the screen";
 }
 

@@ -1,8 +1,10 @@
 // The window's files: saving with the overwrite question, reading through
 // the wizard and its failures, and the calculator's program files.
+#include <QCheckBox>
 #include <QCoreApplication>
 #include <QPlainTextEdit>
 #include <QTranslator>
+#include <filesystem>
 
 #include "calculator/qt_translations.h"
 #include "form_fixture.h"
@@ -141,6 +143,66 @@ TEST_F(FilesTest, QtsOwnDialogTextsAreJapanese) {
               QStringLiteral("キャンセル"));
     QCoreApplication::removeTranslator(translator);
     delete translator;
+}
+
+// The accuracy CSV is a file of its own kind: its name beside the data
+// file with ".csv", the CSV filter, the suffix added, and an existing file
+// replaced only after OK.
+TEST_F(FilesTest, TheAccuracyCsvHasItsOwnNameAndAsksBeforeReplacing) {
+    RunProgram(kFirstOrder);
+    script->files = {PathOf("x.Ldt")};
+    Click("ButtonResultWrite");
+    script->files = {PathOf("x")};
+    Action("MenueAccuracyCsv")->trigger();
+    EXPECT_EQ(script->initialPaths.last(), PathOf("x.csv"));
+    EXPECT_EQ(script->selectedFilters.last(), QStringLiteral("CSV(*.csv)"));
+    EXPECT_EQ(script->filterLists.last(), QStringLiteral("CSV(*.csv);;All(*.*)"));
+    EXPECT_EQ(ReadBytes(folder / "x.csv").substr(0, 2), "t,");
+    EXPECT_NE(ReadBytes(folder / "x.Ldt").substr(0, 2), "t,") << "the data file is left alone";
+    WriteBytes(folder / "x.csv", "keep me");
+    script->files = {PathOf("x.csv")};
+    script->answers = {QMessageBox::Cancel};
+    script->questions.clear();
+    Action("MenueAccuracyCsv")->trigger();
+    EXPECT_EQ(script->questions,
+              QStringList{QStringLiteral(
+                  "ファイルは既に有ります: 同名のファイルが有ります上書きしますか")});
+    EXPECT_EQ(ReadBytes(folder / "x.csv"), "keep me");
+}
+
+// The file holds the data and the calculator's present program: when that
+// program did not make the data, or the result text was edited, the user is
+// asked first.
+TEST_F(FilesTest, ASaveAsksWhenTheFileWouldMixTwoPrograms) {
+    RunProgram(kFirstOrder);
+    SetProgram(QStringLiteral("Return 1/(p+2)\nEnd"));
+    const struct {
+        QMessageBox::StandardButton answer;
+        bool written;
+    } rows[] = {{QMessageBox::Cancel, false}, {QMessageBox::Ok, true}};
+    for (const auto& row : rows) {
+        std::filesystem::remove(folder / "mixed.Ldt");
+        script->files = {PathOf("mixed.Ldt")};
+        script->answers = {row.answer};
+        script->questions.clear();
+        Click("ButtonResultWrite");
+        EXPECT_EQ(
+            script->questions,
+            QStringList{QStringLiteral("結果保存: プログラムがデータを作った時から変わっています。"
+                                       "今のプログラムをデータと一緒に保存しますか")});
+        EXPECT_EQ(std::filesystem::exists(folder / "mixed.Ldt"), row.written);
+    }
+    SetProgram(kFirstOrder);
+    Find<QCheckBox>("Check1")->click();
+    Find<QPlainTextEdit>("Text1")->appendPlainText(QStringLiteral("my note"));
+    script->files = {PathOf("edited.Ldt")};
+    script->answers = {QMessageBox::Cancel};
+    script->questions.clear();
+    Click("Command3");
+    EXPECT_EQ(script->questions,
+              QStringList{QStringLiteral("結果保存: 「編集」で変えた結果テキストは保存されません。"
+                                         "計算したデータと結果を保存しますか")});
+    EXPECT_FALSE(std::filesystem::exists(folder / "edited.Ldt"));
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 // the state labels read "Non" as soon as a run starts, a save without a
 // valid result is refused, and "データ表示" without data draws nothing.
 #include <QApplication>
+#include <QCheckBox>
+#include <QListWidget>
 #include <QPushButton>
 #include <QStatusBar>
 #include <filesystem>
@@ -102,6 +104,30 @@ TEST_F(StaleTest, TheCalculatorShowsTheVariablesOfTheDataRun) {
     for (int k = 0; k < globals->count(); ++k)
         names << globals->item(k)->text().section(QLatin1Char('='), 0, 0);
     EXPECT_TRUE(names.contains(QStringLiteral("p"))) << names.join(QLatin1Char(' ')).toStdString();
+}
+
+// The Hanning switch is a parameter like N, T and gamma0: the data were
+// tapered, or not, when they were made.
+TEST_F(StaleTest, TheHanningSwitchMakesTheDataStale) {
+    RunProgram(kFirstOrder);
+    ASSERT_EQ(Text("DataSourceLb"), QStringLiteral("Math"));
+    Find<QCheckBox>("HaningCheck")->click();
+    EXPECT_EQ(Text("DataSourceLb"), QStringLiteral("Non"));
+    EXPECT_EQ(Text("ResultLb"), QStringLiteral("Non"));
+    EXPECT_EQ(Scrn()->view(), PlotView::None);
+    EXPECT_TRUE(Find<QLabel>("AccuracySummary")->text().isEmpty()) << "its findings went too";
+}
+
+// What speaks of a drawing or a run goes with it.
+TEST_F(StaleTest, TheBannerAndTheExecutionListGoWithTheirCause) {
+    RunProgram(QStringLiteral("Return 1/(p-2)\nEnd"));
+    ASSERT_TRUE(Find<QWidget>("SingularityBanner")->isVisible());
+    Click("ButtonClearScreen");
+    EXPECT_FALSE(Find<QWidget>("SingularityBanner")->isVisible());
+    auto* list = Calculator().findChild<QListWidget*>(QStringLiteral("ProgramList"));
+    ASSERT_GT(list->count(), 0);
+    SetProgram(kFirstOrder);
+    EXPECT_EQ(list->count(), 0) << "the list of the old text";
 }
 
 }  // namespace

@@ -127,5 +127,53 @@ TEST_F(TransformTest, TheMenuAndTheCalculatorsOwnButtonMakeTheDataToo) {
     EXPECT_NEAR(form->driver().Store()[kResult].Values[64], std::exp(-64 * 10.0 / 256), 0.01);
 }
 
+// A run started here is stopped here: by the stop button beside the status
+// line or by Esc, in the data loop or in the accuracy phase after it. The
+// status says how; a stopped accuracy phase shows no points as failed.
+TEST_F(TransformTest, ARunStartedHereIsStoppedHere) {
+    const struct {
+        const char* name;
+        const char* phase;  // the status at which the stop comes
+        bool byEscape;
+        const char* status;
+        const char* resultLb;
+    } rows[] = {
+        {"button in the data loop", "データ作成中", false,
+         "プログラム実行中断：中断ボタンで中断しました", "Non"},
+        {"Esc in the data loop", "データ作成中", true, "プログラム実行中断：Esc で中断しました",
+         "Non"},
+        {"button in the accuracy phase", "誤差帯と特異点を確認中", false,
+         "プログラム実行中断：中断ボタンで中断しました", "OK"},
+    };
+    for (const auto& row : rows) {
+        const bool byEscape = row.byEscape;
+        const QString phase = QString::fromUtf8(row.phase);
+        bool stopEnabled = false;
+        const QMetaObject::Connection stopper = QObject::connect(
+            form.get(), &TesmorForm::statusChanged, form.get(), [&, this](const QString& s) {
+                if (s != phase) return;
+                stopEnabled = Find<QPushButton>("ButtonStopRun")->isEnabled();
+                QMetaObject::invokeMethod(
+                    form.get(),
+                    [this, byEscape] {
+                        if (byEscape) {
+                            form->Escape_Pressed();
+                        } else {
+                            QTest::mouseClick(Find<QPushButton>("ButtonStopRun"), Qt::LeftButton);
+                        }
+                    },
+                    Qt::QueuedConnection);
+            });
+        RunProgram(kFirstOrder);
+        QObject::disconnect(stopper);
+        EXPECT_TRUE(stopEnabled) << row.name;
+        EXPECT_EQ(Text("StatusBar"), QString::fromUtf8(row.status)) << row.name;
+        EXPECT_EQ(Text("ResultLb"), QString::fromUtf8(row.resultLb)) << row.name;
+        EXPECT_FALSE(Find<QWidget>("SingularityBanner")->isVisible()) << row.name;
+        EXPECT_TRUE(messages.isEmpty()) << row.name;
+        EXPECT_FALSE(Find<QPushButton>("ButtonStopRun")->isEnabled()) << row.name;
+    }
+}
+
 }  // namespace
 }  // namespace lapdesk::testing

@@ -44,8 +44,15 @@ std::vector<double> AccurateTimes(const Conditions& c) {
     return times;
 }
 
-AccuracyReport RunAccuracyChecks(const TransformDriver& fft, const LaplaceFunction& f,
+AccuracyReport RunAccuracyChecks(const TransformDriver& fft, const LaplaceFunction& plainF,
                                  const AccuracyOptions& options) {
+    std::int64_t taken = 0;
+    const LaplaceFunction counted = [&](const Complex& s) {
+        const FValue value = plainF(s);
+        options.progress(++taken);
+        return value;
+    };
+    const LaplaceFunction& f = options.progress ? counted : plainF;
     AccuracyReport report;
     const Conditions c = fft.GetConditions();
     const LineValues line = LineValuesFromStore(fft);

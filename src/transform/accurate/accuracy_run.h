@@ -7,6 +7,8 @@
 // the FFT's value and band. The FFT result itself is only read.
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -31,6 +33,9 @@ struct AccuracyOptions {
     bool band = false;      // the FFT's error band (always made for the accurate inversion)
     bool accurate = false;  // the accurate inversion
     AccurateParameters parameters;
+    // Told the number of values of F taken so far, after each one, so that a
+    // long run can show that it is alive.
+    std::function<void(std::int64_t evaluations)> progress;
 };
 
 struct AccuracyReport {

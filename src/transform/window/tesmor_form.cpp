@@ -10,9 +10,12 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QTextDocument>
+#include <algorithm>
+#include <cmath>
 
 #include "calculator/frm_cpl_cal.h"
 #include "transform/ldt_file.h"
@@ -58,17 +61,60 @@ void TesmorForm::ASetLapOpValur() {
 // result.
 bool TesmorForm::TesmorDataSet() {
     if (busy_) return false;
+    stopRequestedBy_.clear();
     SetBusy(true);
     accuracy_->Forget();
     const Outcome made = MakeDataFromProgram(driver_, calculator_->interpreter());
     SetBusy(false);
     if (made.ok) {
+        dataProgram_ = QString::fromStdString(calculator_->interpreter().ProgramText());
         ShowNewResult();
         RunAccuracy();
     } else {
-        ShowFailure(made.reason);
+        EndRunStatus(made);
     }
     return made.ok;
+}
+
+// A stop asked for here is reported as the stop it was, with how it was
+// asked; any other end of the run with its reason.
+void TesmorForm::EndRunStatus(const Outcome& outcome) {
+    if (!stopRequestedBy_.isEmpty()) {
+        SetStatus(QStringLiteral("プログラム実行中断：") + stopRequestedBy_ +
+                  QStringLiteral("で中断しました"));
+    } else if (!outcome.ok) {
+        ShowFailure(outcome.reason);
+    }
+}
+
+void TesmorForm::ButtonStopRun_Click() {
+    RequestStop(QStringLiteral("中断ボタン"));
+}
+
+// Esc stops a drawing, and a run started from this window.
+void TesmorForm::Escape_Pressed() {
+    NowDispLb_Stop();
+    RequestStop(QStringLiteral("Esc "));
+}
+
+// The calculator's stop request, which every phase of the run polls.
+void TesmorForm::RequestStop(const QString& how) {
+    if (!busy_ || !stopRequestedBy_.isEmpty()) return;
+    stopRequestedBy_ = how;
+    calculator_->ButtonStop_Click();
+    SetStatus(QStringLiteral("中断しています…"));
+}
+
+// The calculator's progress meter, mirrored while this window runs.
+void TesmorForm::ShowMeter(double value, bool reset) {
+    if (!busy_) return;
+    if (reset) {
+        runProgress_->setRange(0, std::max(1, static_cast<int>(std::lround(value))));
+        runProgress_->setValue(0);
+    } else if (value > 0) {
+        runProgress_->setValue(
+            std::min(runProgress_->maximum(), static_cast<int>(std::lround(value))));
+    }
 }
 
 void TesmorForm::ZOrder() {
@@ -96,7 +142,8 @@ void TesmorForm::ShowFailure(const std::string& reason) {
 }
 
 // The labels show the driver's parameters and states; the states enable the
-// commands that need data or a result.
+// commands that need data or a result (the accuracy data, also a finished
+// run).
 void TesmorForm::ShowStateLabels() {
     wordNumberLb_->setText(FromStd(driver_.WordNumberLb()));
     tendLb_->setText(FromStd(driver_.TendLb()));
@@ -110,6 +157,7 @@ void TesmorForm::ShowStateLabels() {
     buttonResultWrite_->setEnabled(data);
     buttonDrawResult_->setEnabled(result);
     menueWriteResult_->setEnabled(result && !busy_);
+    menueAccuracyCsv_->setEnabled(result && !busy_);
     DropStaleDrawing();
 }
 
@@ -127,10 +175,12 @@ void TesmorForm::DropStaleDrawing() {
         text1_->clear();
         frame3_->hide();
     }
+    // The accuracy findings speak of data that are gone.
+    if (!data) accuracy_->Forget();
 }
 
-// While the program makes the data, only the calculator's stop and the end
-// of the program are offered.
+// While the program makes the data, only the stop (here and in the
+// calculator), its progress and the end of the program are offered.
 void TesmorForm::SetBusy(bool busy) {
     busy_ = busy;
     buttonsFrame_->setEnabled(!busy);
@@ -138,31 +188,46 @@ void TesmorForm::SetBusy(bool busy) {
     for (QAction* action : busyActions_) {
         action->setEnabled(!busy);
     }
+    buttonStopRun_->setEnabled(busy);
+    runProgress_->setVisible(busy);
     ShowStateLabels();
 }
 
 // Opening the calculator hides the result frame; the calculator opens in
-// program mode, beside this window the first time (this window moves over
-// when the screen has room for both only that way).
+// program mode, in front, where it covers none of this window's commands.
 void TesmorForm::OpenCalculator() {
     frame3_->hide();
-    if (!calculatorPlaced_ && screen() != nullptr) {
-        calculatorPlaced_ = true;
-        const WindowPlacement place = PlaceBeside(frameGeometry(), calculator_->frameSize(),
-                                                  screen()->availableGeometry(), 8);
-        if (place.main != frameGeometry().topLeft()) move(place.main);
-        calculator_->move(place.beside);
-    }
+    PlaceCalculator();
     calculator_->show();
     calculator_->raise();
     calculator_->activateWindow();
     calculator_->ShowProgramMode();
 }
 
+// The first time: beside this window (narrowed, or this window moved over,
+// when that makes room), else over the left of the plot.
+void TesmorForm::PlaceCalculator() {
+    if (calculatorPlaced_ || screen() == nullptr) return;
+    calculatorPlaced_ = true;
+    const QSize decoration = calculator_->frameSize() - calculator_->size();
+    const WindowPlacement place =
+        PlaceBeside(frameGeometry(), calculator_->frameSize(),
+                    calculator_->minimumSizeHint().width() + decoration.width(),
+                    screen()->availableGeometry(), 8);
+    if (place.main != frameGeometry().topLeft()) move(place.main);
+    calculator_->resize(place.besideWidth - decoration.width(), calculator_->height());
+    calculator_->move(place.beside);
+}
+
 // "実行": the calculator's own data command, so that both windows know a
 // program is running; it calls back ASetLapOpValur, TesmorDataSet and ZOrder.
+// The calculator is shown, but stays behind while it has nothing to say (a
+// failure's message brings it to the front).
 void TesmorForm::Command2_Click() {
-    OpenCalculator();
+    frame3_->hide();
+    PlaceCalculator();
+    if (!calculator_->isVisible()) calculator_->show();
+    calculator_->ShowProgramMode();
     calculator_->ButtonExeProgToMakeTesmorData_Click();
 }
 
@@ -184,6 +249,7 @@ void TesmorForm::ButtonExeTesmor_Click() {
 void TesmorForm::ShowNewResult() {
     SetStatus(kWritingResultText);
     text1_->setPlainText(DisplayText(WriteResultText(driver_)));
+    text1_->document()->setModified(false);
     MenueResultMemo_Click();
     DrawContent(kNowDispResult, true);
     SetStatus(QString());
@@ -191,6 +257,7 @@ void TesmorForm::ShowNewResult() {
 
 void TesmorForm::ButtonClearScreen_Click() {
     nowDispLb_->clear();
+    accuracy_->HideBanner();
     ClearReadout();
     scrn_->ClearScreen(driver_.GetConditions().T);
 }
@@ -261,6 +328,11 @@ void TesmorForm::MenueEnd_Click() {
 // Closing the main window ends the program: the drawing and any run stop,
 // the calculator closes with it.
 void TesmorForm::closeEvent(QCloseEvent* event) {
+    // The calculator's program is not dropped unasked.
+    if (!calculator_->ConfirmDiscard()) {
+        event->ignore();
+        return;
+    }
     nowDispLb_->clear();
     calculator_->close();
     event->accept();

@@ -14,6 +14,7 @@
 
 #include "calculator/calculator_dialogs.h"
 #include "calculator/transform_link.h"
+#include "transform/outcome.h"
 #include "transform/transform_driver.h"
 
 class QAction;
@@ -26,6 +27,7 @@ class QListWidgetItem;
 class QMenu;
 class QMouseEvent;
 class QPlainTextEdit;
+class QProgressBar;
 class QPushButton;
 
 namespace lapdesk {
@@ -83,6 +85,11 @@ class TesmorForm : public QMainWindow, public TransformPartner {
     void GanmaText_Enter();
     void HaningCheck_Click();
 
+    // Stopping a run started here: the stop button beside the status line,
+    // and Esc, which also stops a drawing.
+    void ButtonStopRun_Click();
+    void Escape_Pressed();
+
     // The plot and its readout.
     void NowDispLb_Stop();
     void Scrn_MouseMove(QMouseEvent* event);
@@ -107,6 +114,7 @@ class TesmorForm : public QMainWindow, public TransformPartner {
     QWidget* BuildLegend();
     QWidget* BuildConditionsFrame();
     QWidget* BuildButtonsFrame();
+    void BuildStatusLine();
     void BuildMenus();
     QAction* MakeAction(QMenu* menu, const char* name, const QString& caption);
     QPushButton* MakeButton(const char* name, const QString& caption, const QString& tip);
@@ -130,8 +138,15 @@ class TesmorForm : public QMainWindow, public TransformPartner {
     void MarkRejected(QLineEdit* box, bool rejected);
     bool EntryBoxEvent(QLineEdit* box, QEvent* event);
 
+    void PlaceCalculator();
+    void RequestStop(const QString& how);
+    void ShowMeter(double value, bool reset);
+    void EndRunStatus(const Outcome& outcome);
+
     // Files (tesmor_form_files.cpp).
     QString ChooseDataFile(FileDialogKind kind, const QString& title);
+    bool ConfirmReplace(const QString& path);
+    bool ConfirmResultWrite();
 
     // The accuracy features (tesmor_form_accuracy.cpp).
     QWidget* BuildAccuracyPanel();
@@ -143,6 +158,11 @@ class TesmorForm : public QMainWindow, public TransformPartner {
     std::unique_ptr<FrmCplCal> calculator_;
     ReadFileWisard* wisard_ = nullptr;
     QString fileName_;
+    // The calculator's program text that made the present data ("" for data
+    // from a file).
+    QString dataProgram_;
+    // How the present run was asked to stop ("" while it was not).
+    QString stopRequestedBy_;
     bool busy_ = false;
     bool calculatorPlaced_ = false;
     bool resultFramePlaced_ = false;
@@ -181,6 +201,9 @@ class TesmorForm : public QMainWindow, public TransformPartner {
     QPushButton* buttonDrawResult_ = nullptr;
     QPushButton* buttonResultWrite_ = nullptr;
     QAction* menueWriteResult_ = nullptr;
+    QAction* menueAccuracyCsv_ = nullptr;
+    QPushButton* buttonStopRun_ = nullptr;
+    QProgressBar* runProgress_ = nullptr;
     // Menu items that wait while the program makes the data.
     std::vector<QAction*> busyActions_;
     AccuracyView* accuracy_ = nullptr;

@@ -13,6 +13,7 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
@@ -22,6 +23,7 @@
 #include "calculator/frm_cpl_cal.h"
 #include "importer/read_file_wisard.h"
 #include "transform/window/about_box.h"
+#include "transform/window/accuracy/accuracy_view.h"
 #include "transform/window/draggable_frame.h"
 #include "transform/window/plot/scrn_plot.h"
 #include "transform/window/tesmor_form.h"
@@ -98,14 +100,33 @@ TesmorForm::TesmorForm(std::unique_ptr<CalculatorDialogs> dialogs,
     connect(wrdList_, &QListWidget::itemClicked, this, &TesmorForm::WrdList_Click);
     wrdList_->installEventFilter(this);
     BuildMenus();
-    statusBar_ = MakeLabel("StatusBar", QString());
-    statusBar()->addWidget(statusBar_, 1);
+    BuildStatusLine();
     auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-    connect(escape, &QShortcut::activated, this, &TesmorForm::NowDispLb_Stop);
+    connect(escape, &QShortcut::activated, this, &TesmorForm::Escape_Pressed);
+    connect(calculator_.get(), &FrmCplCal::meterChanged, this, &TesmorForm::ShowMeter);
     Load();
 }
 
 TesmorForm::~TesmorForm() = default;
+
+// The status text, and beside it the progress of a run and its stop button.
+// The button is always there (enabled only while a run can be stopped), so
+// nothing moves when a run starts.
+void TesmorForm::BuildStatusLine() {
+    statusBar_ = MakeLabel("StatusBar", QString());
+    statusBar()->addWidget(statusBar_, 1);
+    runProgress_ = Named(new QProgressBar, "RunProgress");
+    runProgress_->setFixedWidth(160);
+    runProgress_->setTextVisible(false);
+    runProgress_->setRange(0, 0);
+    runProgress_->hide();
+    statusBar()->addPermanentWidget(runProgress_);
+    buttonStopRun_ = MakeButton("ButtonStopRun", QStringLiteral("中断"),
+                                QStringLiteral("実行中の計算を止めます（Esc でも止まります）"));
+    buttonStopRun_->setEnabled(false);
+    connect(buttonStopRun_, &QPushButton::clicked, this, &TesmorForm::ButtonStopRun_Click);
+    statusBar()->addPermanentWidget(buttonStopRun_);
+}
 
 // Load: the defaults, the list of N, the empty plot, the state labels, and
 // the window centred on the screen.
@@ -216,6 +237,7 @@ QWidget* TesmorForm::BuildSidePanel() {
     layout->addWidget(BuildConditionsFrame());
     layout->addWidget(BuildAccuracyPanel());
     layout->addWidget(BuildButtonsFrame());
+    layout->addWidget(accuracy_->Findings());
     layout->addStretch();
     return panel;
 }

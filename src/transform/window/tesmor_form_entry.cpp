@@ -116,8 +116,10 @@ bool TesmorForm::EntryBoxEvent(QLineEdit* box, QEvent* event) {
     }
 }
 
+// Like a new N, T or gamma0: the data were made with the other taper.
 void TesmorForm::HaningCheck_Click() {
     driver_.SetHaning(haningCheck_->isChecked());
+    ShowStateLabels();
 }
 
 // Clicks on the parameter labels, Enter in the N list, and the readout

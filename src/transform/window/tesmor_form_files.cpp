@@ -1,7 +1,9 @@
 // The transform window's files: reading data through the import wizard,
 // saving data and result with the overwrite question, and the calculator's
 // program files.
+#include <QCheckBox>
 #include <QFileInfo>
+#include <QPlainTextEdit>
 
 #include "calculator/frm_cpl_cal.h"
 #include "calculator/program_files.h"
@@ -56,6 +58,7 @@ void TesmorForm::ReadLapData() {
     accuracy_->Forget();  // file data have no F to check
     const Outcome read = lapdesk::ReadLapData(driver_, path.toStdString(), where);
     if (read.ok) {
+        dataProgram_.clear();
         ShowNewResult();
     } else {
         ShowFailure(read.reason);
@@ -73,14 +76,13 @@ void TesmorForm::WriteTransformFile() {
         ShowFailure(allowed.reason);
         return;
     }
+    if (!ConfirmResultWrite()) {
+        SetStatus(kWriteFailed);
+        return;
+    }
     QString path = ChooseDataFile(FileDialogKind::Save, QStringLiteral("データファイルを保存"));
     if (!path.isEmpty()) path = WithDataSuffix(path);
-    if (!path.isEmpty() && QFileInfo::exists(path) &&
-        dialogs_->Ask(this, QStringLiteral("ファイルは既に有ります"),
-                      QStringLiteral("同名のファイルが有ります上書きしますか"),
-                      QMessageBox::Ok | QMessageBox::Cancel) != QMessageBox::Ok) {
-        path.clear();
-    }
+    if (!path.isEmpty() && !ConfirmReplace(path)) path.clear();
     if (path.isEmpty()) {
         SetStatus(kWriteFailed);
         return;
@@ -89,6 +91,35 @@ void TesmorForm::WriteTransformFile() {
     const Outcome written = lapdesk::WriteTransformFile(driver_, path.toStdString(),
                                                         calculator_->interpreter().ProgramText());
     if (!written.ok) ShowFailure(written.reason);
+}
+
+// Every save that would replace a file asks first.
+bool TesmorForm::ConfirmReplace(const QString& path) {
+    return !QFileInfo::exists(path) ||
+           dialogs_->Ask(this, QStringLiteral("ファイルは既に有ります"),
+                         QStringLiteral("同名のファイルが有ります上書きしますか"),
+                         QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;
+}
+
+// The file holds the data, the result and the calculator's present program.
+// When that program is not the one that made the data, or the result text
+// was edited (the file is written from the data, not from the text), the
+// user says whether to go on.
+bool TesmorForm::ConfirmResultWrite() {
+    const auto ask = [this](const QString& text) {
+        return dialogs_->Ask(this, QStringLiteral("結果保存"), text,
+                             QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;
+    };
+    if (check1_->isChecked() && text1_->document()->isModified() &&
+        !ask(QStringLiteral("「編集」で変えた結果テキストは保存されません。"
+                            "計算したデータと結果を保存しますか"))) {
+        return false;
+    }
+    const bool programData = driver_.DataSourceLb() == kLabelMath;
+    const QString program = QString::fromStdString(calculator_->interpreter().ProgramText());
+    return !programData || program == dataProgram_ ||
+           ask(QStringLiteral("プログラムがデータを作った時から変わっています。"
+                              "今のプログラムをデータと一緒に保存しますか"));
 }
 
 // ProgramReadAndRun: the calculator reads the program file into its editor.

@@ -1,9 +1,11 @@
 #include "transform/window/accuracy/accuracy_view.h"
 
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QGridLayout>
 #include <QLabel>
 #include <QStringList>
+#include <QVBoxLayout>
 #include <cmath>
 
 #include "transform/accurate/accuracy_messages.h"
@@ -14,6 +16,8 @@
 namespace lapdesk {
 
 namespace {
+
+constexpr qint64 kProgressIntervalMs = 200;
 
 QColor AccurateColour() {
     return QColor(0x7b, 0x2c, 0xbf);
@@ -71,6 +75,7 @@ void AddZone(ScrnPlot* plot, const AxisRange& t) {
 
 AccuracyView::AccuracyView(ScrnPlot* scrn, QObject* parent) : QObject(parent), scrn_(scrn) {
     panel_ = BuildPanel();
+    findings_ = BuildFindings();
     banner_ = new QLabel(scrn_);
     banner_->setObjectName(QStringLiteral("SingularityBanner"));
     banner_->setWordWrap(true);
@@ -107,17 +112,24 @@ QWidget* AccuracyView::BuildPanel() {
                               QStringLiteral("高精度逆変換のうち、誤差の見積りが目標に届かないか、"
                                              "減衰FFTとその誤差帯に合わない点")),
                     4, 0, 1, 2);
+    return panel;
+}
+
+QWidget* AccuracyView::BuildFindings() {
+    auto* findings = new QWidget;
+    findings->setObjectName(QStringLiteral("AccuracyFindings"));
+    auto* layout = new QVBoxLayout(findings);
+    layout->setContentsMargins(0, 0, 0, 0);
     summary_ = new QLabel;
     summary_->setObjectName(QStringLiteral("AccuracySummary"));
-    summary_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    summary_->setWordWrap(true);
-    grid->addWidget(summary_, 5, 0, 1, 2);
     readout_ = new QLabel;
     readout_->setObjectName(QStringLiteral("AccuracyReadout"));
-    readout_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    readout_->setWordWrap(true);
-    grid->addWidget(readout_, 6, 0, 1, 2);
-    return panel;
+    for (QLabel* label : {summary_, readout_}) {
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setWordWrap(true);
+        layout->addWidget(label);
+    }
+    return findings;
 }
 
 bool AccuracyView::AccurateChosen() const {
@@ -129,12 +141,30 @@ void AccuracyView::RunAfterProgram(const TransformDriver& fft, Interpreter& sess
     banner_->hide();
     readout_->clear();
     const bool accurate = AccurateChosen();
-    status(accurate ? QStringLiteral("誤差帯・特異点・高精度逆変換を計算中")
-                    : QStringLiteral("誤差帯と特異点を確認中"));
-    report_ = RunAccuracyChecksOnProgram(fft, session, {true, accurate, AccurateParameters{}});
+    const QString working = accurate ? QStringLiteral("誤差帯・特異点・高精度逆変換を計算中")
+                                     : QStringLiteral("誤差帯と特異点を確認中");
+    status(working);
+    // A few times a second: the count shows the run is alive, and painting
+    // it costs next to nothing beside the values of F.
+    QElapsedTimer shown;
+    shown.start();
+    AccuracyOptions options{true, accurate, AccurateParameters{}, {}};
+    options.progress = [&](std::int64_t evaluations) {
+        if (shown.elapsed() < kProgressIntervalMs) return;
+        shown.restart();
+        status(working + QStringLiteral("（F の値 %1 個）").arg(evaluations));
+    };
+    report_ = RunAccuracyChecksOnProgram(fft, session, options);
     madeFor_ = fft.GetConditions();
+    // What a stop cut short is not shown as points that could not be
+    // computed: the accurate curve is dropped, the complete parts stay.
+    if (report_->stopped) report_->accurate.reset();
     ShowFindings(fft);
     status(report_->stopped ? QStringLiteral("プログラム実行中断") : QString());
+}
+
+void AccuracyView::HideBanner() {
+    banner_->hide();
 }
 
 // The summary of each result's estimated error beside the plot, and what
@@ -146,13 +176,16 @@ void AccuracyView::ShowFindings(const TransformDriver& fft) {
     const auto add = [](QStringList& list, const std::string& text) {
         if (!text.empty()) list << QString::fromStdString(text);
     };
-    const std::string singular = SingularityMessage(report, fft.GetConditions());
+    // A check or band cut short by a stop has nothing to say.
+    const std::string singular =
+        report.check.stopped ? std::string() : SingularityMessage(report, fft.GetConditions());
     if (!singular.empty()) lines << QStringLiteral("⚠ ") + QString::fromStdString(singular);
-    if (report.band && !report.band->ok && !report.band->stopped) add(lines, report.band->reason);
+    const bool bandDone = report.band && !report.band->stopped;
+    if (bandDone && !report.band->ok) add(lines, report.band->reason);
     // The summary gives the share of max |f| itself; no banner for it: the
     // damped FFT at its defaults is often near 1 %, and a banner at every run
     // would hide the findings that matter more.
-    if (report.band) add(summaries, SummaryLine(SummariseFft(fft, *report.band), false));
+    if (bandDone) add(summaries, SummaryLine(SummariseFft(fft, *report.band), false));
     if (report.accurate) {
         add(summaries, SummaryLine(SummariseAccurate(*report.accurate), true));
         add(lines, NotApplicableMessage(*report.accurate));

@@ -31,15 +31,21 @@ class AccuracyView : public QObject {
     AccuracyView(ScrnPlot* scrn, QObject* parent = nullptr);
 
     QWidget* Panel() const { return panel_; }
+    // The summary and the cursor readout: their rows come and go, so they
+    // are placed where nothing below them moves.
+    QWidget* Findings() const { return findings_; }
     bool AccurateChosen() const;
 
     // After the program made the data and the FFT ran on it: the singularity
-    // check, the band and, when chosen, the accurate inversion. The user's
-    // stop request ends it.
+    // check, the band and, when chosen, the accurate inversion, with the
+    // values of F taken so far on the status line. The user's stop request
+    // ends it; a stopped run shows what was complete before the stop.
     void RunAfterProgram(const TransformDriver& fft, Interpreter& session,
                          const StatusSink& status);
     // Data from a file, or parameters changed: there is nothing to show.
     void Forget();
+    // The plot was cleared: the banner spoke about what was drawn.
+    void HideBanner();
     const std::optional<AccuracyReport>& Report() const { return report_; }
 
     // Adds the layers over a result just drawn (nothing over the samples).
@@ -49,12 +55,14 @@ class AccuracyView : public QObject {
 
   private:
     QWidget* BuildPanel();
+    QWidget* BuildFindings();
     void ShowBanner(const QString& text);
     void ShowFindings(const TransformDriver& fft);
     bool Shows(const TransformDriver& fft) const;
 
     ScrnPlot* scrn_;
     QWidget* panel_ = nullptr;
+    QWidget* findings_ = nullptr;
     QComboBox* method_ = nullptr;
     QLabel* summary_ = nullptr;
     QLabel* readout_ = nullptr;
