@@ -129,7 +129,8 @@ TEST_F(ControlsTest, StartsWithTheDefaultsAndALinkedCalculator) {
 }
 
 // The calculator opens beside the transform window (screen 0..1999 wide,
-// main window 1000 wide, calculator 600 wide and at least 400, 8 apart).
+// calculator 600 wide and at least 400, the main window at least 900, 8
+// apart).
 TEST(WindowPlacement, TheCalculatorNeverCoversTheCommands) {
     const QRect screen(0, 0, 2000, 1000);
     const struct {
@@ -137,25 +138,31 @@ TEST(WindowPlacement, TheCalculatorNeverCoversTheCommands) {
         int mainLeft;
         int mainWidth;
         QPoint main;
+        int newMainWidth;
         QPoint beside;
         int besideWidth;
     } rows[] = {
-        {"room on the right", 100, 1000, {100, 50}, {1108, 50}, 600},
-        {"room on the left", 900, 1000, {900, 50}, {292, 50}, 600},
-        {"the main window moves over", 500, 1000, {196, 50}, {1204, 50}, 600},
-        {"narrowed to fit on the left", 500, 1500, {500, 50}, {0, 50}, 492},
-        {"narrowed, the main window moves over", 300, 1500, {0, 50}, {1508, 50}, 492},
-        {"over the plot, not the commands", 100, 1700, {300, 50}, {0, 50}, 400},
+        {"room on the right", 100, 1000, {100, 50}, 1000, {1108, 50}, 600},
+        {"room on the left", 900, 1000, {900, 50}, 1000, {292, 50}, 600},
+        {"the main window moves over", 500, 1000, {196, 50}, 1000, {1204, 50}, 600},
+        {"narrowed to fit on the left", 500, 1500, {500, 50}, 1500, {0, 50}, 492},
+        {"the calculator narrowed, both moved", 300, 1500, {0, 50}, 1500, {1508, 50}, 492},
+        {"both narrowed", 100, 1700, {0, 50}, 1592, {1600, 50}, 400},
+        {"over the plot, not the commands", 100, 1800, {200, 50}, 1800, {0, 50}, 400},
     };
     for (const auto& row : rows) {
-        const WindowPlacement place = PlaceBeside(QRect(row.mainLeft, 50, row.mainWidth, 700),
-                                                  QSize(600, 700), 400, screen, 8);
+        const int mainMin = row.mainWidth == 1800 ? 1700 : 900;
+        const WindowPlacement place = PlaceBeside(
+            {QRect(row.mainLeft, 50, row.mainWidth, 700), mainMin, QSize(600, 700), 400}, screen,
+            8);
         EXPECT_EQ(place.main, row.main) << row.name;
+        EXPECT_EQ(place.mainWidth, row.newMainWidth) << row.name;
         EXPECT_EQ(place.beside, row.beside) << row.name;
         EXPECT_EQ(place.besideWidth, row.besideWidth) << row.name;
     }
-    EXPECT_EQ(PlaceBeside(QRect(100, 600, 1000, 700), QSize(600, 700), 400, screen, 8).beside.y(),
-              300)
+    EXPECT_EQ(
+        PlaceBeside({QRect(100, 600, 1000, 700), 900, QSize(600, 700), 400}, screen, 8).beside.y(),
+        300)
         << "kept on the screen";
 }
 

@@ -2,7 +2,9 @@
 // person would drive it: at start, after a transform (plot and result
 // frame), the samples with the cursor readout, the import wizard on the
 // saved file, the calculator beside the transform window, the result read
-// back, a failed run with its reason, and the window at its least size.
+// back, a failed run with its reason, and the window at its least size; and
+// the whole screen (under a window manager: where the windows stand, what
+// covers what) after "作成", after "実行" and after a program that fails.
 // Usage: transform_screenshots <folder>
 #include <QApplication>
 #include <QComboBox>
@@ -14,6 +16,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 #include <cstdio>
@@ -47,6 +50,12 @@ class FixedDialogs : public lapdesk::CalculatorDialogs {
 QImage Grab(QWidget& window) {
     QApplication::processEvents();
     return window.grab().toImage();
+}
+
+// The whole screen as the window manager shows it.
+QImage GrabScreen() {
+    QTest::qWait(300);  // the window manager places and decorates first
+    return QGuiApplication::primaryScreen()->grabWindow(0).toImage();
 }
 
 void Save(const QImage& image, const QDir& folder, const QString& name) {
@@ -108,6 +117,8 @@ int main(int argc, char** argv) {
                     std::make_unique<FixedDialogs>(dataFile));
     form.show();
     Save(Grab(form), folder, QStringLiteral("transform-0-start"));
+    Click(form, "ButtonCallPfunction");
+    Save(GrabScreen(), folder, QStringLiteral("screen-1-after-create"));
 
     // f(t) = e^-0.5t sin 2t over ten seconds.
     Enter(form, "TendLb", "TendText", "10");
@@ -117,6 +128,7 @@ int main(int argc, char** argv) {
         ->setPlainText(QStringLiteral("' F(p) = 2/((p+0.5)^2+4): f(t) = exp(-0.5t)*sin(2t)\n"
                                       "Return 2/((p+0.5)^2 + 4)\nEnd"));
     Click(form, "Command2");
+    Save(GrabScreen(), folder, QStringLiteral("screen-2-after-run"));
     Save(Grab(form), folder, QStringLiteral("transform-1-transform"));
     Save(SideBySide(Grab(form), Grab(calculator)), folder,
          QStringLiteral("transform-4-with-calculator"));
@@ -142,7 +154,22 @@ int main(int argc, char** argv) {
     Click(form, "Command2");
     Save(Grab(form), folder, QStringLiteral("transform-6-failure"));
 
+    // A program that fails: its message comes to the front, then is
+    // double-clicked away.
     Enter(form, "Ganmalb", "GanmaText", "5");
+    auto* editor = Child<QPlainTextEdit>(calculator, "ProgramText");
+    const QString good = editor->toPlainText();
+    editor->setPlainText(QStringLiteral("q = 1/(p-p)\nReturn q\nEnd"));
+    QObject::connect(
+        &calculator, &lapdesk::FrmCplCal::messageShown, &calculator,
+        [&calculator, &folder] {
+            Save(GrabScreen(), folder, QStringLiteral("screen-3-failed-program"));
+            QTest::mouseDClick(Child<QLabel>(calculator, "MessageBox"), Qt::LeftButton);
+        },
+        Qt::QueuedConnection);
+    Click(form, "Command2");
+    Save(GrabScreen(), folder, QStringLiteral("screen-4-after-failure"));
+    editor->setPlainText(good);
     Click(form, "Command2");
     form.resize(form.minimumSizeHint());
     Save(Grab(form), folder, QStringLiteral("transform-7-smallest"));

@@ -209,13 +209,15 @@ void TesmorForm::OpenCalculator() {
 void TesmorForm::PlaceCalculator() {
     if (calculatorPlaced_ || screen() == nullptr) return;
     calculatorPlaced_ = true;
-    const QSize decoration = calculator_->frameSize() - calculator_->size();
-    const WindowPlacement place =
-        PlaceBeside(frameGeometry(), calculator_->frameSize(),
-                    calculator_->minimumSizeHint().width() + decoration.width(),
-                    screen()->availableGeometry(), 8);
+    const int decoration = frameGeometry().width() - width();
+    const int otherDecoration = calculator_->frameSize().width() - calculator_->width();
+    const WindowPlacement place = PlaceBeside(
+        {frameGeometry(), minimumSizeHint().width() + decoration, calculator_->frameSize(),
+         calculator_->minimumSizeHint().width() + otherDecoration},
+        screen()->availableGeometry(), 8);
+    if (place.mainWidth != frameGeometry().width()) resize(place.mainWidth - decoration, height());
     if (place.main != frameGeometry().topLeft()) move(place.main);
-    calculator_->resize(place.besideWidth - decoration.width(), calculator_->height());
+    calculator_->resize(place.besideWidth - otherDecoration, calculator_->height());
     calculator_->move(place.beside);
 }
 

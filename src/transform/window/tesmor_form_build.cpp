@@ -167,11 +167,11 @@ QWidget* TesmorForm::BuildPlotArea() {
     posX_ = MakeLabel("PosX", QStringLiteral("t= "));
     posY_ = MakeLabel("PosY", QStringLiteral("y= "));
     for (QLabel* readout : {posX_, posY_}) {
-        readout->setMinimumWidth(110);
+        readout->setMinimumWidth(88);
         readout->setTextInteractionFlags(Qt::TextSelectableByMouse);
     }
     nowDispLb_ = MakeLabel("NowDispLb", QString());
-    nowDispLb_->setMinimumWidth(40);
+    nowDispLb_->setMinimumWidth(30);
     auto* readoutRow = new QHBoxLayout;
     readoutRow->addWidget(posX_);
     readoutRow->addWidget(posY_);

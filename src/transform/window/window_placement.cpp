@@ -13,22 +13,24 @@ int TopOnScreen(int top, int height, const QRect& screen) {
 
 }  // namespace
 
-WindowPlacement PlaceBeside(const QRect& mainFrame, const QSize& otherFrame, int minWidth,
-                            const QRect& screen, int gap) {
-    const int room = screen.width() - mainFrame.width() - gap;
-    const int width = std::min(otherFrame.width(), std::max(minWidth, room));
-    WindowPlacement place{mainFrame.topLeft(), {}, width};
-    const int top = TopOnScreen(mainFrame.top(), otherFrame.height(), screen);
-    if (mainFrame.right() + gap + width <= screen.right()) {
-        place.beside = {mainFrame.right() + 1 + gap, top};
-    } else if (mainFrame.left() - gap - width >= screen.left()) {
-        place.beside = {mainFrame.left() - gap - width, top};
-    } else if (width <= room) {
-        const int left = screen.left() + (room - width) / 2;
+WindowPlacement PlaceBeside(const WindowFrames& frames, const QRect& screen, int gap) {
+    const QRect& main = frames.main;
+    const int room = screen.width() - main.width() - gap;
+    const int width = std::min(frames.other.width(), std::max(frames.otherMinWidth, room));
+    WindowPlacement place{main.topLeft(), main.width(), {}, width};
+    const int top = TopOnScreen(main.top(), frames.other.height(), screen);
+    const int mainWidth = std::max(frames.mainMinWidth, screen.width() - gap - width);
+    if (main.right() + gap + width <= screen.right()) {
+        place.beside = {main.right() + 1 + gap, top};
+    } else if (main.left() - gap - width >= screen.left()) {
+        place.beside = {main.left() - gap - width, top};
+    } else if (std::min(main.width(), mainWidth) + gap + width <= screen.width()) {
+        place.mainWidth = std::min(main.width(), mainWidth);
+        const int left = screen.left() + (screen.width() - place.mainWidth - gap - width) / 2;
         place.main.setX(left);
-        place.beside = {left + mainFrame.width() + gap, top};
+        place.beside = {left + place.mainWidth + gap, top};
     } else {
-        place.main.setX(std::max(screen.left(), screen.right() + 1 - mainFrame.width()));
+        place.main.setX(std::max(screen.left(), screen.right() + 1 - main.width()));
         place.beside = {screen.left(), top};
     }
     return place;
