@@ -103,6 +103,7 @@ void FrmCplCal::ZoomFont(QWidget* widget) {
 // the line it happened on, and the editor marks the line every located
 // error names.
 void FrmCplCal::Errmessage(const std::string& message) {
+    if (running_) ShowRunningPlace();  // the place the message speaks of
     QString text = QString::fromStdString(message);
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     std::optional<ErrorLocation> location = ParseErrorLocation(text);

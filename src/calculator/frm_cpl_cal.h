@@ -170,6 +170,7 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     void EndRun();
     void ShowExecutionList(bool list);
     void MarkErrorLocation(const ErrorLocation& location);
+    void ShowRunningPlace();
     int EditorLineOf(const ClsCode& page, int statement);
     QString LocationText(const ErrorLocation& location);
     void HoldInputForMessage(bool hold);
@@ -250,6 +251,8 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     bool selectionMode_ = false;
     bool keyboardBeforeProgress_ = false;
     std::int16_t runningPage_ = -1;
+    std::int16_t runningLine_ = -1;
+    std::int16_t listEntry_ = -1;  // the execution list entry to select, -1 for none
     static constexpr qint64 kEventIntervalMs = 20;
     QElapsedTimer eventClock_;         // since window events last ran
     std::vector<int> statementLines_;  // editor line of each execution list entry

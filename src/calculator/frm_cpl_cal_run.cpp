@@ -77,6 +77,8 @@ void FrmCplCal::BeginRun() {
 }
 
 void FrmCplCal::EndRun() {
+    ShowRunningPlace();  // where the run ended, whatever the pace skipped
+    listEntry_ = -1;
     running_ = false;
     UpdateEnabled();
     if (memory_->isVisible()) memory_->CommandReShowMemorys_Click();
@@ -152,17 +154,26 @@ int FrmCplCal::EditorLineOf(const ClsCode& page, int statement) {
     return statementLines_[entry];
 }
 
-// The running page by name and its line as the editor numbers it.
+// The running page, line and list entry are noted at every statement and
+// shown at the screen's pace (ShowRunningPlace): drawing them per statement
+// would cost far more than running it.
 void FrmCplCal::ShowPageIndex(std::int16_t pageIndex) {
     runningPage_ = pageIndex;
-    const bool known = pageIndex >= 0 && pageIndex < interpreter_.PageCount();
-    pgLb_->setText(known ? QString::fromStdString(interpreter_.Page(pageIndex).PageName())
-                         : QString::number(pageIndex));
 }
 
 void FrmCplCal::ShowLineIndex(std::int16_t lineIndex) {
+    runningLine_ = lineIndex;
+}
+
+// The running page by name, its line as the editor numbers it, and the
+// entry of the execution list.
+void FrmCplCal::ShowRunningPlace() {
+    if (listEntry_ >= 0 && programList_->isVisible()) programList_->setCurrentRow(listEntry_);
+    if (runningPage_ < 0) return;  // no page has run yet
     const bool known = runningPage_ >= 0 && runningPage_ < interpreter_.PageCount();
-    const int line = known ? EditorLineOf(interpreter_.Page(runningPage_), lineIndex) : -1;
+    pgLb_->setText(known ? QString::fromStdString(interpreter_.Page(runningPage_).PageName())
+                         : QString::number(runningPage_));
+    const int line = known ? EditorLineOf(interpreter_.Page(runningPage_), runningLine_) : -1;
     pcLb_->setText(line >= 0 ? QString::number(line + 1) : QString());
 }
 
@@ -185,7 +196,7 @@ bool FrmCplCal::ProgramListVisible() const {
 }
 
 void FrmCplCal::SelectProgramListEntry(std::int16_t index) {
-    programList_->setCurrentRow(index);
+    listEntry_ = index;
 }
 
 void FrmCplCal::SetKai(const std::string& text) {
@@ -234,6 +245,7 @@ void FrmCplCal::CalProcMeter(double value, bool reset) {
 // at once to the eye).
 void FrmCplCal::ProcessEvents() {
     if (eventClock_.isValid() && eventClock_.elapsed() < kEventIntervalMs) return;
+    if (running_) ShowRunningPlace();
     QCoreApplication::processEvents();
     eventClock_.start();
 }

@@ -147,7 +147,11 @@ bool Interpreter::CutProgram() {
     const std::vector<std::string> statements = CutStatements(programText_);
     for (const std::string& statement : statements)
         view_->AddProgramListEntry(statement);
-    if (statements.empty()) return false;
+    if (statements.empty()) {
+        // Nothing to analyse; said in words, beside the "Code Error0" status.
+        view_->Errmessage("プログラムが空です（実行する文がありません）");
+        return false;
+    }
     bool built = false;
     try {
         built = BuildPages(statements);
