@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "accuracy_output.h"
@@ -10,6 +11,7 @@
 #include "console_view.h"
 #include "fileio/text_file.h"
 #include "interp/interpreter.h"
+#include "transform/accurate/time_grid.h"
 #include "transform/program/program_function.h"
 #include "transform/program/program_sampling.h"
 #include "transform/transform_driver.h"
@@ -32,8 +34,22 @@ struct InvertOptions {
     bool error = false;
     bool fast = false;
     bool strict = false;
+    std::optional<std::string> times;
+    std::optional<std::string> timesFile;
+    std::optional<double> tol;
     TransformOutputOptions outputs;
 };
+
+// The times asked for with --times or --times-file (none: the FFT's grid).
+TimeGrid AskedTimes(const InvertOptions& options) {
+    if (options.times) return ParseTimeRange(*options.times);
+    if (!options.timesFile) return {true, {}, {}};
+    const TextResult text = ReadText(*options.timesFile);
+    if (!text.ok) return {false, {}, *options.timesFile + ": " + text.reason};
+    TimeGrid grid = ParseTimeList(text.text);
+    if (!grid.ok) grid.reason = *options.timesFile + ": " + grid.reason;
+    return grid;
+}
 
 // The accurate inversion's table to --csv or standard output.
 int WriteAccurateCsv(const AccurateResult& result, const InvertOptions& options) {
@@ -62,6 +78,15 @@ int RunInvert(const InvertOptions& options) {
                      "では --csv を使ってください\n";
         return 2;
     }
+    if ((options.times || options.timesFile) && !accurate) {
+        std::cerr << "lapdesk-cli invert: --times と --times-file は --method dehoog で使います\n";
+        return 2;
+    }
+    const TimeGrid times = AskedTimes(options);
+    if (!times.ok) {
+        std::cerr << "lapdesk-cli invert: " << times.reason << '\n';
+        return 2;
+    }
     driver.SetHaning(!options.noHanning);
     const TextResult program = ReadText(options.file);
     if (!program.ok) {
@@ -79,8 +104,10 @@ int RunInvert(const InvertOptions& options) {
     }
     // The singularity check runs on every inversion, the band unless --fast
     // (the accurate inversion always has it beside it).
-    const AccuracyReport report = RunAccuracyChecksOnProgram(
-        driver, session, {options.error || !options.fast, accurate, AccurateParameters{}, {}});
+    AccuracyOptions checks = AccuracyOptionsFor(options.error || !options.fast, accurate);
+    checks.times = times.times;
+    if (options.tol) checks.parameters.target = *options.tol;
+    const AccuracyReport report = RunAccuracyChecksOnProgram(driver, session, checks);
     const int warnings = PrintAccuracyReport(report, driver);
     if (report.stopped) {
         std::cerr << "プログラム実行中断\n";
@@ -116,8 +143,8 @@ void AddInvertCommand(CLI::App& app, int& exitStatus) {
     invert->add_flag("--no-hanning", options->noHanning, "Do not taper the samples");
     invert
         ->add_option("--method", options->method,
-                     "fft: the damped FFT; dehoog: the accurate inversion, t,y,error as CSV "
-                     "for t = n*T/N, n = 1..N-1")
+                     "fft: the damped FFT; dehoog: the accurate inversion, t,y,error,status as "
+                     "CSV for t = n*T/N, n = 1..N-1, or the times of --times or --times-file")
         ->check(CLI::IsMember({"fft", "dehoog"}))
         ->capture_default_str();
     invert->add_flag("--error", options->error,
@@ -127,6 +154,19 @@ void AddInvertCommand(CLI::App& app, int& exitStatus) {
                      "error");
     invert->add_flag("--strict", options->strict,
                      "End with exit status 3 when any warning: line was printed");
+    auto* times = invert->add_option(
+        "--times", options->times,
+        "With --method dehoog: f at COUNT times from FROM to TO, evenly or (:log) evenly in "
+        "log t, as FROM:TO:COUNT[:log]");
+    invert
+        ->add_option("--times-file", options->timesFile,
+                     "With --method dehoog: f at the times in FILE, one t a line")
+        ->excludes(times);
+    invert
+        ->add_option("--tol", options->tol,
+                     "Error aimed at, relative to max |f|; with --method dehoog the accuracy "
+                     "each point must reach (1e-10 by default)")
+        ->check(CLI::Range(1e-15, 0.1));
     options->outputs.AddTo(*invert);
     invert->callback([options, &exitStatus] { exitStatus = RunInvert(*options); });
 }

@@ -58,6 +58,28 @@ endif()
 run_cli(2 invert "${EXAMPLES}/first-order.Prg" --method dehoog -o accurate.Ldt)
 run_cli(2 invert "${EXAMPLES}/first-order.Prg" --method talbot)
 
+# Times off the FFT's grid: a log range over six decades, and a list in the
+# order it was written. e^-t at t = 10 is 4.5399929762484854e-05.
+run_cli(0 invert "${EXAMPLES}/first-order.Prg" --method dehoog --times 1e-3:1e3:7:log)
+string(REGEX MATCHALL "[^\n]+" rows "${out}")
+list(LENGTH rows count)
+if(NOT count EQUAL 8)
+  message(FATAL_ERROR "--times CSV has ${count} lines, expected the header and 7 rows")
+endif()
+list(GET rows 5 ten)
+if(NOT ten MATCHES "^10,4\\.5399929[0-9]*e-05,[0-9.e-]+,ok$")
+  message(FATAL_ERROR "--times row for t = 10: ${ten}")
+endif()
+file(WRITE "${WORK}/times.txt" "# t\n2\n0.5\n")
+run_cli(0 invert "${EXAMPLES}/first-order.Prg" --method dehoog --times-file times.txt)
+expect_contains("${out}" "t,y,error,status\n2,0.1353352832" "--times-file, first as written")
+expect_contains("${out}" "\n0.5,0.6065306597" "--times-file, second as written")
+file(WRITE "${WORK}/bad-times.txt" "1\n-2\n")
+run_cli(2 invert "${EXAMPLES}/first-order.Prg" --method dehoog --times-file bad-times.txt)
+expect_contains("${err}" "2 行目" "a bad time names its line")
+run_cli(2 invert "${EXAMPLES}/first-order.Prg" --times 1:2:3)
+expect_contains("${err}" "--method dehoog" "--times needs the accurate method")
+
 # The FFT's band as the third column; the data file on standard output stays.
 run_cli(0 invert "${EXAMPLES}/first-order.Prg" -N 128 --error --csv band.csv)
 expect_contains("${out}" "変換関数作成プログラムリスト" "the result text")

@@ -59,7 +59,8 @@ inline CaseResult RunCase(const Case& c, int n) {
     driver.SetGanma(DoubleToText(c.gamma0));
     if (!TesmorDataSet(driver, session)) return out;
     out.made = true;
-    const AccuracyReport report = RunAccuracyChecksOnProgram(driver, session, {true, true, {}, {}});
+    const AccuracyReport report =
+        RunAccuracyChecksOnProgram(driver, session, AccuracyOptionsFor(true, true));
     out.D = report.check.D;
     out.evaluations = report.accurate->evaluations;
     const Conditions cond = driver.GetConditions();

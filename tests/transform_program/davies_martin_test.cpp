@@ -38,7 +38,8 @@ CaseRun RunCase(const std::string& program, double (*exact)(double), bool everyt
     CaseRun run;
     run.fftMade = TesmorDataSet(driver, session);
     if (!run.fftMade) return run;
-    run.report = RunAccuracyChecksOnProgram(driver, session, {everything, everything, {}, {}});
+    run.report =
+        RunAccuracyChecksOnProgram(driver, session, AccuracyOptionsFor(everything, everything));
     if (!everything) return run;
     const Conditions c = driver.GetConditions();
     const int reliable = static_cast<int>(0.8 * c.N);

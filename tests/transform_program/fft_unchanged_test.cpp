@@ -24,7 +24,8 @@ struct Made {
     Made(const std::string& program, bool withAccuracy) {
         session.SetProgramText(program);
         EXPECT_TRUE(TesmorDataSet(driver, session));
-        if (withAccuracy) RunAccuracyChecksOnProgram(driver, session, {true, true, {}, {}});
+        if (withAccuracy)
+            RunAccuracyChecksOnProgram(driver, session, AccuracyOptionsFor(true, true));
     }
 };
 

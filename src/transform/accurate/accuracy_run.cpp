@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "transform/accurate/last_peak.h"
+#include "transform/accurate/time_grid.h"
 
 namespace lapdesk {
 
@@ -29,6 +30,18 @@ double ResonanceHeight(const Conditions& c, const LineValues& line) {
         magnitudes.push_back(std::hypot(value->Re, value->Im));
     }
     return static_cast<double>(LastPeak(magnitudes)) * c.DeltaOmega();
+}
+
+// The points in the order the times were asked for.
+AccurateResult InvertAtTimes(const LaplaceFunction& f, const std::vector<double>& times,
+                             const AccurateParameters& parameters) {
+    const SortedTimes sorted = SortTimes(times);
+    AccurateResult result = InvertAccurately(f, sorted.times, parameters);
+    std::vector<AccuratePoint> asked(times.size());
+    for (std::size_t k = 0; k < sorted.askedAt.size(); ++k)
+        asked[sorted.askedAt[k]] = result.points[k];
+    result.points = std::move(asked);
+    return result;
 }
 
 }  // namespace
@@ -68,8 +81,10 @@ AccuracyReport RunAccuracyChecks(const TransformDriver& fft, const LaplaceFuncti
         // with the FFT's (a singularity near gamma0/T, left of it).
         if (report.check.growth) parameters.alpha = c.Gamma();
         parameters.resonance = ResonanceHeight(c, line);
-        report.accurate = InvertAccurately(f, AccurateTimes(c), parameters,
-                                           FftReferences(fft, *report.band, report.check));
+        report.accurate = options.times.empty()
+                              ? InvertAccurately(f, AccurateTimes(c), parameters,
+                                                 FftReferences(fft, *report.band, report.check))
+                              : InvertAtTimes(f, options.times, parameters);
         report.stopped = report.accurate->stopped;
     }
     return report;

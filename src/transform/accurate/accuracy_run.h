@@ -36,7 +36,19 @@ struct AccuracyOptions {
     // Told the number of values of F taken so far, after each one, so that a
     // long run can show that it is alive.
     std::function<void(std::int64_t evaluations)> progress;
+    // The times for the accurate inversion, greater than 0, in any order;
+    // empty: the FFT's grid. Off the grid there is no FFT value to compare
+    // with: such points are judged by the method's own checks alone.
+    std::vector<double> times;
 };
+
+// The band and the accurate inversion as chosen, the rest as by default.
+inline AccuracyOptions AccuracyOptionsFor(bool band, bool accurate) {
+    AccuracyOptions options;
+    options.band = band;
+    options.accurate = accurate;
+    return options;
+}
 
 struct AccuracyReport {
     SingularityCheck check;

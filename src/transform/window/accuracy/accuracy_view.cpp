@@ -148,7 +148,7 @@ void AccuracyView::RunAfterProgram(const TransformDriver& fft, Interpreter& sess
     // it costs next to nothing beside the values of F.
     QElapsedTimer shown;
     shown.start();
-    AccuracyOptions options{true, accurate, AccurateParameters{}, {}};
+    AccuracyOptions options = AccuracyOptionsFor(true, accurate);
     options.progress = [&](std::int64_t evaluations) {
         if (shown.elapsed() < kProgressIntervalMs) return;
         shown.restart();
