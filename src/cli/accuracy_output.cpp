@@ -34,6 +34,9 @@ int PrintAccuracyReport(const AccuracyReport& report, const TransformDriver& fft
         summary = SummariseFft(fft, *report.band);
     const std::string line = SummaryLine(summary, accurate);
     if (!line.empty()) std::cerr << line << '\n';
+    if (report.ends) {
+        std::cerr << InitialValueLine(*report.ends) << '\n' << FinalValueLine(*report.ends) << '\n';
+    }
     std::vector<std::string> warnings = {SingularityMessage(report, fft.GetConditions()),
                                          LargeErrorMessage(summary, accurate)};
     if (accurate) {

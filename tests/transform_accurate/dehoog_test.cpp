@@ -50,6 +50,16 @@ TEST(DeHoogFraction, SumsASlowSeriesOnTheUnitCircle) {
     }
 }
 
+TEST(DeHoogFraction, AnEvenCountLeavesTheLastValueOut) {
+    std::vector<Cx> a;
+    for (int k = 0; k < 42; ++k)
+        a.push_back(1.0 / (k + 1.0));
+    const DeHoogFraction even(a);
+    const DeHoogFraction odd(std::span<const Cx>(a).first(41));
+    EXPECT_EQ(even.Depth(), 20);
+    EXPECT_EQ(even.Evaluate(Cx(0.3, 0.4), 20), odd.Evaluate(Cx(0.3, 0.4), 20));
+}
+
 TEST(DeHoogFraction, ReportsABrokenTable) {
     const std::vector<Cx> a = {1.0, 0.0, 1.0};  // q = 1/0
     EXPECT_FALSE(DeHoogFraction(a).ok());

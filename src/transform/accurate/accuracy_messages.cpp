@@ -133,4 +133,29 @@ std::string LargeErrorMessage(const ErrorSummary& s, bool accurate) {
            (accurate ? std::string() : std::string("。高精度で確かめてください"));
 }
 
+namespace {
+
+// The value to the digits its estimate vouches for: 0.9999999999 ± 2e-9
+// reads 1, and 1e-10 ± 2e-9 reads 0.
+std::string EndValueText(const char* name, const EndValue& v) {
+    const double unit = std::pow(10.0, std::floor(std::log10(v.estimate)));
+    const double shown = std::round(v.value / unit) * unit + 0.0;  // no "-0"
+    char text[96];
+    std::snprintf(text, sizeof text, "%s = %.12g (±%.2g)", name, shown, v.estimate);
+    return text;
+}
+
+}  // namespace
+
+std::string InitialValueLine(const EndValues& ends) {
+    if (ends.initial.found) return EndValueText("f(0+)", ends.initial);
+    return "f(0+): s·F(s) が s → ∞ で一定の値に落ち着かないため求めません";
+}
+
+std::string FinalValueLine(const EndValues& ends) {
+    if (ends.final.found) return EndValueText("f(∞)", ends.final);
+    return "f(∞): s·F(s) が s → 0 で落ち着かないか、f(t) が 1000 T "
+           "までに落ち着かないため求めません";
+}
+
 }  // namespace lapdesk

@@ -42,4 +42,9 @@ std::string SummaryLine(const ErrorSummary& summary, bool accurate);
 inline constexpr double kLargeErrorShare = 0.01;
 std::string LargeErrorMessage(const ErrorSummary& summary, bool accurate);
 
+// "f(0+) = 1 (±2e-09)" and "f(∞) = 0.5 (±1e-10)", or what kept each limit
+// from being claimed.
+std::string InitialValueLine(const EndValues& ends);
+std::string FinalValueLine(const EndValues& ends);
+
 }  // namespace lapdesk

@@ -75,17 +75,21 @@ AccuracyReport RunAccuracyChecks(const TransformDriver& fft, const LaplaceFuncti
         report.band = EstimateFftError(fft, f, line);
         report.stopped = report.band->stopped;
     }
+    AccurateParameters parameters = options.parameters;
+    // Growth: f rises so fast that the method's own line must move right
+    // with the FFT's (a singularity near gamma0/T, left of it).
+    if (report.check.growth) parameters.alpha = c.Gamma();
+    parameters.resonance = ResonanceHeight(c, line);
     if (options.accurate && !report.stopped) {
-        AccurateParameters parameters = options.parameters;
-        // Growth: f rises so fast that the method's own line must move right
-        // with the FFT's (a singularity near gamma0/T, left of it).
-        if (report.check.growth) parameters.alpha = c.Gamma();
-        parameters.resonance = ResonanceHeight(c, line);
         report.accurate = options.times.empty()
                               ? InvertAccurately(f, AccurateTimes(c), parameters,
                                                  FftReferences(fft, *report.band, report.check))
                               : InvertAtTimes(f, options.times, parameters);
         report.stopped = report.accurate->stopped;
+    }
+    if (report.band && !report.stopped) {
+        report.ends = FindEndValues(f, c.T, parameters);
+        report.stopped = report.ends->stopped;
     }
     return report;
 }

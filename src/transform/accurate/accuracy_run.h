@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "transform/accurate/dehoog_inversion.h"
+#include "transform/accurate/end_values.h"
 #include "transform/accurate/fft_error_band.h"
 #include "transform/accurate/singularity_check.h"
 #include "transform/transform_driver.h"
@@ -54,7 +55,8 @@ struct AccuracyReport {
     SingularityCheck check;
     std::optional<FftErrorBand> band;
     std::optional<AccurateResult> accurate;
-    bool stopped = false;  // F asked to stop; later parts did not run
+    std::optional<EndValues> ends;  // f(0+) and f(inf), made beside the band
+    bool stopped = false;           // F asked to stop; later parts did not run
 };
 
 // The times of the accurate inversion for the driver's N and T: t_n, n = 1..N-1.

@@ -19,7 +19,8 @@ bool Finite(const Cx& x) {
 //   q_(r+1)^(i) = q_r^(i+1) * e_r^(i+1) / e_r^(i)
 // and d_0 = a_0, d_(2r-1) = -q_r^(0), d_(2r) = -e_r^(0).
 DeHoogFraction::DeHoogFraction(std::span<const Cx> a) {
-    const int m = static_cast<int>(a.size() / 2);
+    // 2M+1 values make depth M; an even count leaves its last value out.
+    const int m = static_cast<int>((a.size() - 1) / 2);
     const int n = 2 * m;  // highest coefficient index
     d_.assign(static_cast<std::size_t>(n) + 1, Cx{});
     d_[0] = a[0];

@@ -13,7 +13,8 @@ namespace lapdesk {
 
 class DeHoogFraction {
   public:
-    // a holds a_0..a_2M (a_0 already halved), 2M+1 >= 3 values.
+    // a holds a_0..a_2M (a_0 already halved), 2M+1 >= 3 values; of an even
+    // count the last value is left out.
     explicit DeHoogFraction(std::span<const std::complex<double>> a);
 
     // False when the quotient-difference table broke down (a zero divisor or

@@ -186,6 +186,10 @@ void AccuracyView::ShowFindings(const TransformDriver& fft) {
     // damped FFT at its defaults is often near 1 %, and a banner at every run
     // would hide the findings that matter more.
     if (bandDone) add(summaries, SummaryLine(SummariseFft(fft, *report.band), false));
+    if (report.ends) {
+        add(summaries, InitialValueLine(*report.ends));
+        add(summaries, FinalValueLine(*report.ends));
+    }
     if (report.accurate) {
         add(summaries, SummaryLine(SummariseAccurate(*report.accurate), true));
         add(lines, NotApplicableMessage(*report.accurate));
