@@ -11,6 +11,7 @@
 #include "console_view.h"
 #include "fileio/text_file.h"
 #include "interp/interpreter.h"
+#include "transform/accurate/accuracy_messages.h"
 #include "transform/accurate/time_grid.h"
 #include "transform/program/program_function.h"
 #include "transform/program/program_sampling.h"
@@ -106,7 +107,16 @@ int RunInvert(const InvertOptions& options) {
     // (the accurate inversion always has it beside it).
     AccuracyOptions checks = AccuracyOptionsFor(options.error || !options.fast, accurate);
     checks.times = times.times;
-    if (options.tol) checks.parameters.target = *options.tol;
+    if (options.tol && accurate) checks.parameters.target = *options.tol;
+    if (options.tol && !accurate) {
+        FftChoice choice = ChooseFftParametersOnProgram(driver, session, *options.tol);
+        std::cerr << FftChoiceLine(choice, *options.tol) << '\n';
+        if (choice.stopped) {
+            std::cerr << "プログラム実行中断\n";
+            return 1;
+        }
+        checks.bandMade = std::move(choice.band);
+    }
     const AccuracyReport report = RunAccuracyChecksOnProgram(driver, session, checks);
     const int warnings = PrintAccuracyReport(report, driver);
     if (report.stopped) {
@@ -164,8 +174,9 @@ void AddInvertCommand(CLI::App& app, int& exitStatus) {
         ->excludes(times);
     invert
         ->add_option("--tol", options->tol,
-                     "Error aimed at, relative to max |f|; with --method dehoog the accuracy "
-                     "each point must reach (1e-10 by default)")
+                     "Error aimed at, relative to max |f|: for the FFT, N (up to 4096) and "
+                     "gamma0 are chosen from its error band to reach it, T as given; with "
+                     "--method dehoog the accuracy each point must reach (1e-10 by default)")
         ->check(CLI::Range(1e-15, 0.1));
     options->outputs.AddTo(*invert);
     invert->callback([options, &exitStatus] { exitStatus = RunInvert(*options); });

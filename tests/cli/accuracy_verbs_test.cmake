@@ -77,6 +77,16 @@ expect_contains("${out}" "\n0.5,0.6065306597" "--times-file, second as written")
 file(WRITE "${WORK}/bad-times.txt" "1\n-2\n")
 run_cli(2 invert "${EXAMPLES}/first-order.Prg" --method dehoog --times-file bad-times.txt)
 expect_contains("${err}" "2 行目" "a bad time names its line")
+# A tolerance: the FFT's N and gamma0 are chosen and said; one it cannot
+# reach is said too, with the best it reached. The ends of f come with the
+# summary.
+run_cli(0 invert "${EXAMPLES}/first-order.Prg" --tol 1e-2 -o tol.Ldt)
+expect_contains("${err}" "目標精度 0.01: N = " "a tolerance met")
+expect_contains("${err}" "f(0+) = 1 (±" "the initial value")
+expect_contains("${err}" "f(∞) = 0 (±" "the final value")
+run_cli(0 invert "${EXAMPLES}/first-order.Prg" --tol 1e-12 -o tol.Ldt)
+expect_contains("${err}" "目標精度 1e-12 に届きません: 最良は N = " "a tolerance not reached")
+run_cli(2 invert "${EXAMPLES}/first-order.Prg" --tol 0)
 run_cli(2 invert "${EXAMPLES}/first-order.Prg" --times 1:2:3)
 expect_contains("${err}" "--method dehoog" "--times needs the accurate method")
 

@@ -158,4 +158,18 @@ std::string FinalValueLine(const EndValues& ends) {
            "までに落ち着かないため求めません";
 }
 
+std::string FftChoiceLine(const FftChoice& choice, double tol) {
+    char text[256];
+    const char* head =
+        choice.met ? "目標精度 %.2g: N = %d, γ0 = %.3g を選びました（推定誤差 max |f| の %.2g、"
+                     "探索に F の値 %lld 個）"
+                   : "目標精度 %.2g に届きません: 最良は N = %d, γ0 = %.3g で推定誤差 max "
+                     "|f| の %.2g（探索に F の値 %lld 個）";
+    std::snprintf(text, sizeof text, head, tol, choice.N, choice.gamma0, choice.reached,
+                  static_cast<long long>(choice.evaluations));
+    std::string line = text;
+    if (!choice.reason.empty()) line += "。" + choice.reason;
+    return line;
+}
+
 }  // namespace lapdesk

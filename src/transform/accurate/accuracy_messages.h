@@ -7,6 +7,7 @@
 #include <string>
 
 #include "transform/accurate/accuracy_run.h"
+#include "transform/accurate/fft_tolerance.h"
 
 namespace lapdesk {
 
@@ -45,6 +46,9 @@ std::string LargeErrorMessage(const ErrorSummary& summary, bool accurate);
 // "f(0+) = 1 (±2e-09)" and "f(∞) = 0.5 (±1e-10)", or what kept each limit
 // from being claimed.
 std::string InitialValueLine(const EndValues& ends);
+
+// What the choice of N and gamma0 for a tolerance chose and reached.
+std::string FftChoiceLine(const FftChoice& choice, double tol);
 std::string FinalValueLine(const EndValues& ends);
 
 }  // namespace lapdesk

@@ -72,7 +72,7 @@ AccuracyReport RunAccuracyChecks(const TransformDriver& fft, const LaplaceFuncti
     report.check = CheckSingularity(c, line, f);
     report.stopped = report.check.stopped;
     if ((options.band || options.accurate) && !report.stopped) {
-        report.band = EstimateFftError(fft, f, line);
+        report.band = options.bandMade ? *options.bandMade : EstimateFftError(fft, f, line);
         report.stopped = report.band->stopped;
     }
     AccurateParameters parameters = options.parameters;

@@ -27,7 +27,6 @@ struct ReliablePart {
     int first = 0;
     int last = 0;
 };
-inline constexpr int kUnreliableFirstSteps = 4;
 ReliablePart ReliablePartOf(const Conditions& conditions);
 
 struct AccuracyOptions {
@@ -41,6 +40,9 @@ struct AccuracyOptions {
     // empty: the FFT's grid. Off the grid there is no FFT value to compare
     // with: such points are judged by the method's own checks alone.
     std::vector<double> times;
+    // The band of this very run when it was made already (by the choice of
+    // N and gamma0 for a tolerance).
+    std::optional<FftErrorBand> bandMade;
 };
 
 // The band and the accurate inversion as chosen, the rest as by default.

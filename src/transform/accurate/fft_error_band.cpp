@@ -88,17 +88,23 @@ FftErrorBand EstimateFftError(const TransformDriver& result, const LaplaceFuncti
         return term;
     };
     std::vector<double> local(static_cast<std::size_t>(c.N));
+    out.dampingTerm.resize(local.size());
+    out.pointTerm.resize(local.size());
     for (int n = 0; n < c.N; ++n) {
-        const double dampingTerm = std::abs(y[n] - damped.Y(n)) / 0.9;
-        local[n] = 1.5 * (dampingTerm + 4.0 / 3.0 * pointTerm(n));
+        out.dampingTerm[n] = 1.5 * std::abs(y[n] - damped.Y(n)) / 0.9;
+        out.pointTerm[n] = 1.5 * 4.0 / 3.0 * pointTerm(n);
+        local[n] = out.dampingTerm[n] + out.pointTerm[n];
     }
     // The differences change sign where the error oscillates (f rings, or
     // rings after a jump) and can pass through 0 at a point whose error is
-    // not 0: each point takes the largest of its neighbours within T/128.
+    // not 0: each point takes the largest of its neighbours within T/128,
+    // but none from the untrusted first steps, whose error is of another
+    // kind (and would swamp the start of the trusted part at large N).
     const int reach = std::max(1, c.N / 128);
     out.band.resize(static_cast<std::size_t>(c.N));
     for (int n = 0; n < c.N; ++n) {
-        const auto first = local.begin() + std::max(0, n - reach);
+        const int start = n >= kUnreliableFirstSteps ? kUnreliableFirstSteps : 0;
+        const auto first = local.begin() + std::max(start, n - reach);
         const auto last = local.begin() + std::min<int>(c.N, n + reach + 1);
         out.band[n] = *std::max_element(first, last);
     }

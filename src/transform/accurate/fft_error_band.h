@@ -21,9 +21,17 @@
 
 namespace lapdesk {
 
+// The first steps of the record ring around the jump at t = 0 (the result
+// there is half of f(0+)): the FFT is not trusted there.
+inline constexpr int kUnreliableFirstSteps = 4;
+
 struct FftErrorBand {
     bool ok = false;
     std::vector<double> band;  // for the result points k = 0..N-1
+    // The band's two terms at each point before the widening: what more
+    // damping and what more points would change.
+    std::vector<double> dampingTerm;
+    std::vector<double> pointTerm;
     std::int64_t evaluations = 0;
     bool halvedPoints = false;  // the point-count term used N/2
     bool stopped = false;

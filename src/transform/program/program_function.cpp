@@ -137,4 +137,14 @@ AccuracyReport RunAccuracyChecksOnProgram(const TransformDriver& fft, Interprete
     return report;
 }
 
+FftChoice ChooseFftParametersOnProgram(TransformDriver& fft, Interpreter& session, double tol) {
+    FftChoice choice;
+    {
+        ProgramFunction f(session);
+        choice = ChooseFftParameters(fft, f.AsFunction(), tol);
+    }
+    if (choice.stopped) session.view().ClearStopRequest();
+    return choice;
+}
+
 }  // namespace lapdesk

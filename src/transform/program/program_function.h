@@ -16,6 +16,7 @@
 
 #include "interp/interpreter.h"
 #include "transform/accurate/accuracy_run.h"
+#include "transform/accurate/fft_tolerance.h"
 #include "transform/accurate/laplace_function.h"
 
 namespace lapdesk {
@@ -56,5 +57,8 @@ class ProgramFunction {
 // as the data loop clears its own.
 AccuracyReport RunAccuracyChecksOnProgram(const TransformDriver& fft, Interpreter& session,
                                           const AccuracyOptions& options);
+
+// N and gamma0 for a tolerance, F from the program (fft_tolerance.h).
+FftChoice ChooseFftParametersOnProgram(TransformDriver& fft, Interpreter& session, double tol);
 
 }  // namespace lapdesk
