@@ -98,5 +98,20 @@ TEST_F(AccuracyTest, FileDataShowNoLayers) {
     EXPECT_FALSE(Banner()->isVisible());
 }
 
+// A tolerance chooses N and gamma0 after the run at the values set: the
+// labels show the choice, the summary begins with what it reached, and the
+// ends of f follow.
+TEST_F(AccuracyTest, ATolerancePicksNAndGamma0AndSaysWhatItReached) {
+    Find<QComboBox>("ToleranceCombo")->setCurrentText(QStringLiteral("1e-4"));
+    RunProgram(QStringLiteral("Return 1/(p+1)^2\nEnd"));
+    ASSERT_EQ(Text("ResultLb"), QStringLiteral("OK"));
+    const QString summary = Text("AccuracySummary");
+    EXPECT_TRUE(summary.startsWith(QStringLiteral("目標精度 0.0001: N = ") + Text("WordNumberLb")))
+        << summary.toStdString();
+    EXPECT_NE(Text("WordNumberLb"), QStringLiteral("256")) << "more points were needed";
+    EXPECT_TRUE(summary.contains(QStringLiteral("f(0+) = 0 (±"))) << summary.toStdString();
+    EXPECT_TRUE(summary.contains(QStringLiteral("f(∞) = 0 (±"))) << summary.toStdString();
+}
+
 }  // namespace
 }  // namespace lapdesk::testing

@@ -18,7 +18,9 @@
 #include <cmath>
 
 #include "calculator/frm_cpl_cal.h"
+#include "transform/accurate/accuracy_messages.h"
 #include "transform/ldt_file.h"
+#include "transform/program/program_function.h"
 #include "transform/program/program_sampling.h"
 #include "transform/window/accuracy/accuracy_view.h"
 #include "transform/window/draggable_frame.h"
@@ -66,14 +68,37 @@ bool TesmorForm::TesmorDataSet() {
     accuracy_->Forget();
     const Outcome made = MakeDataFromProgram(driver_, calculator_->interpreter());
     SetBusy(false);
-    if (made.ok) {
-        dataProgram_ = QString::fromStdString(calculator_->interpreter().ProgramText());
-        ShowNewResult();
-        RunAccuracy();
-    } else {
+    if (!made.ok) {
         EndRunStatus(made);
+        return false;
     }
-    return made.ok;
+    dataProgram_ = QString::fromStdString(calculator_->interpreter().ProgramText());
+    std::optional<FftErrorBand> band;
+    if (accuracy_->Tolerance() && !accuracy_->AccurateChosen()) {
+        band = ChooseForTolerance(*accuracy_->Tolerance());
+        if (!stopRequestedBy_.isEmpty()) {
+            EndRunStatus(Outcome::Failure(std::string()));
+            return false;
+        }
+    }
+    ShowNewResult();
+    RunAccuracy(std::move(band));
+    return true;
+}
+
+// The FFT's N and gamma0 for the tolerance; the labels show the choice, the
+// findings begin with what was chosen and reached. Returns the chosen run's
+// band.
+std::optional<FftErrorBand> TesmorForm::ChooseForTolerance(double tol) {
+    SetBusy(true);
+    runProgress_->setRange(0, 0);
+    SetStatus(QStringLiteral("目標精度に合う N と γ0 を探しています"));
+    FftChoice choice = ChooseFftParametersOnProgram(driver_, calculator_->interpreter(), tol);
+    SetBusy(false);
+    const QString line = QString::fromStdString(FftChoiceLine(choice, tol));
+    accuracy_->SetPreface(line);
+    SetStatus(line);
+    return std::move(choice.band);
 }
 
 // A stop asked for here is reported as the stop it was, with how it was

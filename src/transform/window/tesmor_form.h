@@ -9,11 +9,13 @@
 #include <QPointF>
 #include <QString>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "calculator/calculator_dialogs.h"
 #include "calculator/transform_link.h"
+#include "transform/accurate/fft_error_band.h"
 #include "transform/outcome.h"
 #include "transform/transform_driver.h"
 
@@ -151,7 +153,8 @@ class TesmorForm : public QMainWindow, public TransformPartner {
     // The accuracy features (tesmor_form_accuracy.cpp).
     QWidget* BuildAccuracyPanel();
     void AddAccuracyMenuItem(QMenu* file);
-    void RunAccuracy();
+    void RunAccuracy(std::optional<FftErrorBand> bandMade = std::nullopt);
+    std::optional<FftErrorBand> ChooseForTolerance(double tol);
 
     TransformDriver driver_;
     std::unique_ptr<CalculatorDialogs> dialogs_;

@@ -39,11 +39,12 @@ void TesmorForm::AddAccuracyMenuItem(QMenu* file) {
 // The check, the band and (when chosen) the accurate inversion, then their
 // layers over the result just drawn. The calculator still counts as running,
 // so its stop button ends this too, as do this window's.
-void TesmorForm::RunAccuracy() {
+void TesmorForm::RunAccuracy(std::optional<FftErrorBand> bandMade) {
     SetBusy(true);
     runProgress_->setRange(0, 0);  // no end known beforehand: a moving bar
-    accuracy_->RunAfterProgram(driver_, calculator_->interpreter(),
-                               [this](const QString& text) { SetStatus(text); });
+    accuracy_->RunAfterProgram(
+        driver_, calculator_->interpreter(), [this](const QString& text) { SetStatus(text); },
+        std::move(bandMade));
     SetBusy(false);
     if (accuracy_->Report()->stopped) EndRunStatus(Outcome::Failure(std::string()));
     accuracy_->Decorate(driver_);

@@ -97,21 +97,31 @@ QWidget* AccuracyView::BuildPanel() {
         "高精度を選ぶと「実行」で減衰FFTの結果に重ねて高精度逆変換の結果も描きます"));
     grid->addWidget(new QLabel(QStringLiteral("方式")), 0, 0);
     grid->addWidget(method_, 0, 1);
+    tolerance_ = new QComboBox;
+    tolerance_->setObjectName(QStringLiteral("ToleranceCombo"));
+    tolerance_->addItem(QStringLiteral("指定なし"));
+    for (const char* tol : {"1e-3", "1e-4", "1e-5", "1e-6", "1e-8", "1e-10", "1e-12"})
+        tolerance_->addItem(QString::fromLatin1(tol));
+    tolerance_->setToolTip(QStringLiteral(
+        "max |f| に対する目標の誤差。減衰FFTでは「実行」の後にその誤差帯から N と γ0 を選び直し"
+        "（T はそのまま）、高精度では各点の目標にします"));
+    grid->addWidget(new QLabel(QStringLiteral("目標精度")), 1, 0);
+    grid->addWidget(tolerance_, 1, 1);
     grid->addWidget(LegendRow("AccurateLegend", AccurateColour(), QStringLiteral("高精度"),
                               QStringLiteral("de Hoog 法による高精度逆変換の結果")),
-                    1, 0, 1, 2);
+                    2, 0, 1, 2);
     grid->addWidget(
         LegendRow("BandLegend", BandColour(), QStringLiteral("誤差帯"),
                   QStringLiteral("減衰FFTの誤差の見積り: 本当の f(t) はこの帯の中と見込まれます")),
-        2, 0, 1, 2);
+        3, 0, 1, 2);
     grid->addWidget(
         LegendRow("UnreliableLegend", UnreliableColour(), QStringLiteral("信頼できない範囲"),
                   QStringLiteral("t = 0 付近と t ≥ 0.8T: 減衰FFTの結果を信頼できない範囲")),
-        3, 0, 1, 2);
+        4, 0, 1, 2);
     grid->addWidget(LegendRow("FlaggedLegend", FlaggedColour(), QStringLiteral("未保証の点 (×)"),
                               QStringLiteral("高精度逆変換のうち、誤差の見積りが目標に届かないか、"
                                              "減衰FFTとその誤差帯に合わない点")),
-                    4, 0, 1, 2);
+                    5, 0, 1, 2);
     return panel;
 }
 
@@ -136,8 +146,13 @@ bool AccuracyView::AccurateChosen() const {
     return method_->currentIndex() == 1;
 }
 
+std::optional<double> AccuracyView::Tolerance() const {
+    if (tolerance_->currentIndex() <= 0) return std::nullopt;
+    return tolerance_->currentText().toDouble();
+}
+
 void AccuracyView::RunAfterProgram(const TransformDriver& fft, Interpreter& session,
-                                   const StatusSink& status) {
+                                   const StatusSink& status, std::optional<FftErrorBand> bandMade) {
     banner_->hide();
     readout_->clear();
     const bool accurate = AccurateChosen();
@@ -149,6 +164,8 @@ void AccuracyView::RunAfterProgram(const TransformDriver& fft, Interpreter& sess
     QElapsedTimer shown;
     shown.start();
     AccuracyOptions options = AccuracyOptionsFor(true, accurate);
+    options.bandMade = std::move(bandMade);
+    if (accurate && Tolerance()) options.parameters.target = *Tolerance();
     options.progress = [&](std::int64_t evaluations) {
         if (shown.elapsed() < kProgressIntervalMs) return;
         shown.restart();
@@ -172,6 +189,7 @@ void AccuracyView::HideBanner() {
 void AccuracyView::ShowFindings(const TransformDriver& fft) {
     const AccuracyReport& report = *report_;
     QStringList summaries;
+    if (!preface_.isEmpty()) summaries << preface_;
     QStringList lines;
     const auto add = [](QStringList& list, const std::string& text) {
         if (!text.empty()) list << QString::fromStdString(text);
@@ -202,6 +220,7 @@ void AccuracyView::ShowFindings(const TransformDriver& fft) {
 
 void AccuracyView::Forget() {
     report_.reset();
+    preface_.clear();
     banner_->hide();
     summary_->clear();
     readout_->clear();

@@ -35,15 +35,20 @@ class AccuracyView : public QObject {
     // are placed where nothing below them moves.
     QWidget* Findings() const { return findings_; }
     bool AccurateChosen() const;
+    // The error the user asks for, relative to max |f|; none: the method's
+    // own default (the FFT at the N and gamma0 as set).
+    std::optional<double> Tolerance() const;
 
     // After the program made the data and the FFT ran on it: the singularity
     // check, the band and, when chosen, the accurate inversion, with the
     // values of F taken so far on the status line. The user's stop request
     // ends it; a stopped run shows what was complete before the stop.
-    void RunAfterProgram(const TransformDriver& fft, Interpreter& session,
-                         const StatusSink& status);
+    void RunAfterProgram(const TransformDriver& fft, Interpreter& session, const StatusSink& status,
+                         std::optional<FftErrorBand> bandMade = std::nullopt);
     // Data from a file, or parameters changed: there is nothing to show.
     void Forget();
+    // A line to head the next findings (what a tolerance chose).
+    void SetPreface(const QString& line) { preface_ = line; }
     // The plot was cleared: the banner spoke about what was drawn.
     void HideBanner();
     const std::optional<AccuracyReport>& Report() const { return report_; }
@@ -64,10 +69,12 @@ class AccuracyView : public QObject {
     QWidget* panel_ = nullptr;
     QWidget* findings_ = nullptr;
     QComboBox* method_ = nullptr;
+    QComboBox* tolerance_ = nullptr;
     QLabel* summary_ = nullptr;
     QLabel* readout_ = nullptr;
     QLabel* banner_ = nullptr;
     std::optional<AccuracyReport> report_;
+    QString preface_;
     Conditions madeFor_;
 };
 
