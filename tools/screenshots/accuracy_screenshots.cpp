@@ -2,8 +2,8 @@
 // accurate curve over the FFT's result with its band and the unreliable ends
 // shaded (the step 1/p with Hanning off, where the FFT rings), the warning
 // banner for 1/(p-2), whose FFT result is nonsense, the ringing sin 20t with
-// both summaries, and the square wave, whose accurate points near the jumps
-// are flagged.
+// both summaries, the square wave, whose accurate points near the jumps are
+// flagged, and t e^-t with a tolerance that chooses N and gamma0.
 // Usage: accuracy_screenshots <folder>
 #include <QApplication>
 #include <QCheckBox>
@@ -68,5 +68,10 @@ int main(int argc, char** argv) {
     Save(form, folder, "accuracy-3-ringing");
     Run(form, QStringLiteral("' square wave\nReturn 1/(p*(1+Exp(-p)))\nEnd"));
     Save(form, folder, "accuracy-4-flagged-points");
+    // The FFT with a tolerance: N and gamma0 chosen, the ends of f given.
+    Child<QComboBox>(form, "MethodCombo")->setCurrentIndex(0);
+    Child<QComboBox>(form, "ToleranceCombo")->setCurrentText(QStringLiteral("1e-4"));
+    Run(form, QStringLiteral("' f(t) = t exp(-t)\nReturn 1/(p+1)^2\nEnd"));
+    Save(form, folder, "accuracy-5-tolerance");
     return 0;
 }

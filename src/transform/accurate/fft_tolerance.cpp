@@ -76,8 +76,10 @@ Outcome MakeRun(TransformDriver& driver, const LaplaceFunction& f, const LineVal
 // less than now.
 void NextParameters(const Measured& m, double tol, double order, int& n, double& gamma0) {
     const double aim = kPartShare * tol;
+    // To a tenth, upwards: a gamma0 the user reads and types as easily.
     if (m.damping > aim)
-        gamma0 = std::min(kLargestTolerateGamma0, gamma0 + std::log(m.damping / aim));
+        gamma0 = std::min(kLargestTolerateGamma0,
+                          std::ceil(10 * (gamma0 + std::log(m.damping / aim))) / 10);
     if (m.points > aim) {
         const double wanted = n * std::pow(m.points / aim, 1.0 / order);
         while (n < kLargestN && n < wanted)
