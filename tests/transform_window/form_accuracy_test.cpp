@@ -3,6 +3,7 @@
 // and the result text that stays as the FFT made it.
 #include <QComboBox>
 #include <QFile>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 
@@ -111,6 +112,30 @@ TEST_F(AccuracyTest, ATolerancePicksNAndGamma0AndSaysWhatItReached) {
     EXPECT_NE(Text("WordNumberLb"), QStringLiteral("256")) << "more points were needed";
     EXPECT_TRUE(summary.contains(QStringLiteral("f(0+) = 0 (±"))) << summary.toStdString();
     EXPECT_TRUE(summary.contains(QStringLiteral("f(∞) = 0 (±"))) << summary.toStdString();
+}
+
+// Six decades of t on a log axis: the accurate method is asked at 20 times
+// a decade, the axis is logarithmic until the plot is cleared, and the CSV
+// export gives those times rows of their own.
+TEST_F(AccuracyTest, ALogTimeAxisShowsTheAccurateResultOverDecades) {
+    ChooseAccurate(true);
+    Find<QComboBox>("TimeAxisCombo")->setCurrentIndex(1);
+    Find<QLineEdit>("TimeRangeEdit")->setText(QStringLiteral("1e-3:1e3"));
+    RunProgram(kFirstOrder);
+    ASSERT_EQ(Text("ResultLb"), QStringLiteral("OK"));
+    EXPECT_EQ(Scrn()->xAxis->scaleType(), QCPAxis::stLogarithmic);
+    EXPECT_DOUBLE_EQ(Scrn()->xAxis->range().lower, 1e-3);
+    EXPECT_DOUBLE_EQ(Scrn()->xAxis->range().upper, 1e3);
+    const QString csvPath = PathOf("log.csv");
+    script->files = {csvPath};
+    Action("MenueAccuracyCsv")->trigger();
+    QFile csv(csvPath);
+    ASSERT_TRUE(csv.open(QIODevice::ReadOnly));
+    const QStringList rows = QString::fromUtf8(csv.readAll()).split('\n', Qt::SkipEmptyParts);
+    EXPECT_EQ(rows.size(), 1 + 256 + 121) << "the header, the FFT's rows, the accurate times";
+    EXPECT_TRUE(rows.last().startsWith(QStringLiteral("1000,,,"))) << rows.last().toStdString();
+    Click("ButtonClearScreen");
+    EXPECT_EQ(Scrn()->xAxis->scaleType(), QCPAxis::stLinear);
 }
 
 }  // namespace

@@ -3,7 +3,8 @@
 // shaded (the step 1/p with Hanning off, where the FFT rings), the warning
 // banner for 1/(p-2), whose FFT result is nonsense, the ringing sin 20t with
 // both summaries, the square wave, whose accurate points near the jumps are
-// flagged, and t e^-t with a tolerance that chooses N and gamma0.
+// flagged, t e^-t with a tolerance that chooses N and gamma0, and two
+// diffusion kernels over six decades of t on log axes.
 // Usage: accuracy_screenshots <folder>
 #include <QApplication>
 #include <QCheckBox>
@@ -73,5 +74,14 @@ int main(int argc, char** argv) {
     Child<QComboBox>(form, "ToleranceCombo")->setCurrentText(QStringLiteral("1e-4"));
     Run(form, QStringLiteral("' f(t) = t exp(-t)\nReturn 1/(p+1)^2\nEnd"));
     Save(form, folder, "accuracy-5-tolerance");
+    // Six decades of t on a log axis: a diffusion kernel, then log-log.
+    Child<QComboBox>(form, "ToleranceCombo")->setCurrentIndex(0);
+    Child<QComboBox>(form, "MethodCombo")->setCurrentIndex(1);
+    Child<QComboBox>(form, "TimeAxisCombo")->setCurrentIndex(1);
+    Run(form, QStringLiteral("' f(t) = erfc(1/sqrt(t))\nReturn Exp(-2*Sqrt(p))/p\nEnd"));
+    Save(form, folder, "accuracy-6-log-time");
+    Child<QComboBox>(form, "TimeAxisCombo")->setCurrentIndex(2);
+    Run(form, QStringLiteral("' f(t) = exp(-t/2) I0(t/2)\nReturn 1/Sqrt(p*(p+1))\nEnd"));
+    Save(form, folder, "accuracy-7-log-log");
     return 0;
 }

@@ -4,11 +4,15 @@
 #include <QElapsedTimer>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QStringList>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "transform/accurate/accuracy_messages.h"
+#include "transform/accurate/time_grid.h"
 #include "transform/program/program_function.h"
 #include "transform/window/accuracy/accuracy_layers.h"
 #include "transform/window/plot/scrn_plot.h"
@@ -107,21 +111,37 @@ QWidget* AccuracyView::BuildPanel() {
         "（T はそのまま）、高精度では各点の目標にします"));
     grid->addWidget(new QLabel(QStringLiteral("目標精度")), 1, 0);
     grid->addWidget(tolerance_, 1, 1);
+    timeAxis_ = new QComboBox;
+    timeAxis_->setObjectName(QStringLiteral("TimeAxisCombo"));
+    timeAxis_->addItems({QStringLiteral("線形 t (0〜T)"), QStringLiteral("対数 t"),
+                         QStringLiteral("対数 t・対数 |f|")});
+    timeAxis_->setToolTip(
+        QStringLiteral("対数の時間軸では、高精度の f を下の範囲で 1 桁あたり 20 点求めて描きます"
+                       "（減衰FFT の曲線は 0〜T の中だけ）"));
+    timeRange_ = new QLineEdit(QStringLiteral("1e-3:1e3"));
+    timeRange_->setObjectName(QStringLiteral("TimeRangeEdit"));
+    timeRange_->setToolTip(QStringLiteral("対数の時間軸の範囲 FROM:TO（0 < FROM < TO）"));
+    timeRange_->setEnabled(false);
+    connect(timeAxis_, &QComboBox::currentIndexChanged, timeRange_,
+            [this](int index) { timeRange_->setEnabled(index != 0); });
+    grid->addWidget(new QLabel(QStringLiteral("時間軸")), 2, 0);
+    grid->addWidget(timeAxis_, 2, 1);
+    grid->addWidget(timeRange_, 3, 1);
     grid->addWidget(LegendRow("AccurateLegend", AccurateColour(), QStringLiteral("高精度"),
                               QStringLiteral("de Hoog 法による高精度逆変換の結果")),
-                    2, 0, 1, 2);
+                    4, 0, 1, 2);
     grid->addWidget(
         LegendRow("BandLegend", BandColour(), QStringLiteral("誤差帯"),
                   QStringLiteral("減衰FFTの誤差の見積り: 本当の f(t) はこの帯の中と見込まれます")),
-        3, 0, 1, 2);
+        5, 0, 1, 2);
     grid->addWidget(
         LegendRow("UnreliableLegend", UnreliableColour(), QStringLiteral("信頼できない範囲"),
                   QStringLiteral("t = 0 付近と t ≥ 0.8T: 減衰FFTの結果を信頼できない範囲")),
-        4, 0, 1, 2);
+        6, 0, 1, 2);
     grid->addWidget(LegendRow("FlaggedLegend", FlaggedColour(), QStringLiteral("未保証の点 (×)"),
                               QStringLiteral("高精度逆変換のうち、誤差の見積りが目標に届かないか、"
                                              "減衰FFTとその誤差帯に合わない点")),
-                    5, 0, 1, 2);
+                    7, 0, 1, 2);
     return panel;
 }
 
@@ -146,6 +166,28 @@ bool AccuracyView::AccurateChosen() const {
     return method_->currentIndex() == 1;
 }
 
+AccuracyView::TimeAxis AccuracyView::Axis() const {
+    return static_cast<TimeAxis>(timeAxis_->currentIndex());
+}
+
+// 20 times a decade over the range typed; none when it does not read as
+// 0 < FROM < TO.
+std::vector<double> AccuracyView::LogTimes() const {
+    const QStringList ends = timeRange_->text().split(QLatin1Char(':'));
+    if (ends.size() != 2) return {};
+    bool fromOk = false, toOk = false;
+    const double from = ends[0].trimmed().toDouble(&fromOk);
+    const double to = ends[1].trimmed().toDouble(&toOk);
+    if (!fromOk || !toOk || !(from > 0) || !(to > from) || !std::isfinite(to)) return {};
+    const int count = 1 + static_cast<int>(std::ceil(20 * std::log10(to / from)));
+    return ParseTimeRange(QStringLiteral("%1:%2:%3:log")
+                              .arg(from, 0, 'g', 17)
+                              .arg(to, 0, 'g', 17)
+                              .arg(std::min(count, 2001))
+                              .toStdString())
+        .times;
+}
+
 std::optional<double> AccuracyView::Tolerance() const {
     if (tolerance_->currentIndex() <= 0) return std::nullopt;
     return tolerance_->currentText().toDouble();
@@ -165,6 +207,7 @@ void AccuracyView::RunAfterProgram(const TransformDriver& fft, Interpreter& sess
     shown.start();
     AccuracyOptions options = AccuracyOptionsFor(true, accurate);
     options.bandMade = std::move(bandMade);
+    if (accurate && Axis() != TimeAxis::Linear) options.times = LogTimes();
     if (accurate && Tolerance()) options.parameters.target = *Tolerance();
     options.progress = [&](std::int64_t evaluations) {
         if (shown.elapsed() < kProgressIntervalMs) return;
@@ -245,10 +288,22 @@ bool AccuracyView::Shows(const TransformDriver& fft) const {
 void AccuracyView::Decorate(const TransformDriver& fft) {
     if (!Shows(fft)) return;
     const AccuracyLayers layers = MakeAccuracyLayers(fft, *report_);
-    AddZone(scrn_, layers.unreliableStart);
+    const bool logTime = Axis() != TimeAxis::Linear;
+    // On a log axis t = 0 has no place: the start's zone and band point go.
+    Curve bandOutline = layers.bandOutline;
+    if (logTime) {
+        ShowOnLogTime(layers);
+        for (std::size_t k = bandOutline.x.size(); k-- > 0;) {
+            if (bandOutline.x[k] > 0) continue;
+            bandOutline.x.erase(bandOutline.x.begin() + static_cast<long>(k));
+            bandOutline.y.erase(bandOutline.y.begin() + static_cast<long>(k));
+        }
+    } else {
+        AddZone(scrn_, layers.unreliableStart);
+    }
     AddZone(scrn_, layers.unreliableEnd);
-    if (!layers.bandOutline.x.empty()) {
-        QCPCurve* band = AddCurve(scrn_, layers.bandOutline, QStringLiteral("誤差帯"));
+    if (!bandOutline.x.empty()) {
+        QCPCurve* band = AddCurve(scrn_, bandOutline, QStringLiteral("誤差帯"));
         band->setPen(Qt::NoPen);
         band->setBrush(BandColour());
     }
@@ -266,6 +321,51 @@ void AccuracyView::Decorate(const TransformDriver& fft) {
     scrn_->replot();
 }
 
+// The axes for the log view, and the accurate estimate as a band of its
+// own (seen on the log-log axes, where it is not hidden by the line).
+void AccuracyView::ShowOnLogTime(const AccuracyLayers& layers) {
+    const std::vector<double> times = LogTimes();
+    const bool logF = Axis() == TimeAxis::LogLog;
+    double low = std::numeric_limits<double>::infinity();
+    double high = -low;
+    for (const double y : layers.accurate.y) {
+        if (!std::isfinite(y) || (logF && y <= 0)) continue;
+        low = std::min(low, y);
+        high = std::max(high, y);
+    }
+    if (times.empty() || !(low <= high)) return;
+    const double margin = logF ? 0.0 : 0.05 * std::max(high - low, 1e-12);
+    scrn_->ShowLogTime(times.front(), times.back(), logF ? low / 2 : low - margin,
+                       logF ? high * 2 : high + margin, logF);
+    if (!report_->accurate) return;
+    Curve outline;
+    const auto& points = report_->accurate->points;
+    for (const AccuratePoint& p : points) {
+        if (p.state != PointState::Converged) continue;
+        outline.x.push_back(p.t);
+        outline.y.push_back(p.value + p.estimate);
+    }
+    for (auto p = points.rbegin(); p != points.rend(); ++p) {
+        if (p->state != PointState::Converged) continue;
+        outline.x.push_back(p->t);
+        outline.y.push_back(p->value - p->estimate);
+    }
+    if (outline.x.empty()) return;
+    QCPCurve* band = AddCurve(scrn_, outline, QStringLiteral("高精度の誤差見積り"));
+    band->setPen(Qt::NoPen);
+    QColor fill = AccurateColour();
+    fill.setAlpha(60);
+    band->setBrush(fill);
+}
+
+const AccuratePoint* AccuracyView::NearestAccurate(double t) const {
+    if (!report_->accurate || report_->accurate->points.empty() || !(t > 0)) return nullptr;
+    const auto& points = report_->accurate->points;
+    return &*std::min_element(points.begin(), points.end(), [t](const auto& a, const auto& b) {
+        return std::abs(std::log(a.t / t)) < std::abs(std::log(b.t / t));
+    });
+}
+
 void AccuracyView::ShowReadout(const TransformDriver& fft, double t) {
     if (!Shows(fft)) {
         readout_->clear();
@@ -276,8 +376,8 @@ void AccuracyView::ShowReadout(const TransformDriver& fft, double t) {
     QStringList parts;
     if (report_->band && report_->band->ok)
         parts << QStringLiteral("誤差帯 ±%1").arg(report_->band->band[n], 0, 'g', 2);
-    if (report_->accurate && n >= 1) {
-        const AccuratePoint& p = report_->accurate->points[n - 1];
+    if (const AccuratePoint* nearest = NearestAccurate(t)) {
+        const AccuratePoint& p = *nearest;
         if (p.state != PointState::NotApplicable) {
             parts << QStringLiteral("高精度 y= %1 ±%2%3")
                          .arg(p.value, 0, 'g', 12)

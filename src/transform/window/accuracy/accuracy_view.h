@@ -10,12 +10,15 @@
 #include <QString>
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "interp/interpreter.h"
 #include "transform/accurate/accuracy_run.h"
+#include "transform/window/accuracy/accuracy_layers.h"
 
 class QComboBox;
 class QLabel;
+class QLineEdit;
 class QWidget;
 
 namespace lapdesk {
@@ -38,6 +41,11 @@ class AccuracyView : public QObject {
     // The error the user asks for, relative to max |f|; none: the method's
     // own default (the FFT at the N and gamma0 as set).
     std::optional<double> Tolerance() const;
+    // The result on a logarithmic t axis (and |f| on a logarithmic axis too)
+    // over the range typed as FROM:TO; the accurate method is then asked
+    // for f at 20 times a decade of that range.
+    enum class TimeAxis { Linear, LogT, LogLog };
+    TimeAxis Axis() const;
 
     // After the program made the data and the FFT ran on it: the singularity
     // check, the band and, when chosen, the accurate inversion, with the
@@ -64,12 +72,17 @@ class AccuracyView : public QObject {
     void ShowBanner(const QString& text);
     void ShowFindings(const TransformDriver& fft);
     bool Shows(const TransformDriver& fft) const;
+    std::vector<double> LogTimes() const;
+    void ShowOnLogTime(const AccuracyLayers& layers);
+    const AccuratePoint* NearestAccurate(double t) const;
 
     ScrnPlot* scrn_;
     QWidget* panel_ = nullptr;
     QWidget* findings_ = nullptr;
     QComboBox* method_ = nullptr;
     QComboBox* tolerance_ = nullptr;
+    QComboBox* timeAxis_ = nullptr;
+    QLineEdit* timeRange_ = nullptr;
     QLabel* summary_ = nullptr;
     QLabel* readout_ = nullptr;
     QLabel* banner_ = nullptr;

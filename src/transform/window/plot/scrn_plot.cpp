@@ -48,6 +48,11 @@ ScrnPlot::ScrnPlot(QWidget* parent) : QCustomPlot(parent) {
 
 void ScrnPlot::ClearScreen(double tEnd) {
     ++generation_;
+    for (QCPAxis* axis : {xAxis, yAxis}) {
+        if (axis->scaleType() == QCPAxis::stLinear) continue;
+        axis->setScaleType(QCPAxis::stLinear);
+        axis->setTicker(QSharedPointer<QCPAxisTicker>(new QCPAxisTicker));
+    }
     clearPlottables();  // also the layers others add over a result
     clearItems();
     view_ = PlotView::None;
@@ -124,6 +129,19 @@ bool ScrnPlot::Draw(const PlotContent& content, const DrawControl& control) {
     }
     replot();
     return true;
+}
+
+void ScrnPlot::ShowLogTime(double from, double to, double fLow, double fHigh, bool logF) {
+    xAxis->setScaleType(QCPAxis::stLogarithmic);
+    xAxis->setTicker(QSharedPointer<QCPAxisTickerLog>(new QCPAxisTickerLog));
+    xAxis->setRange(from, to);
+    if (logF) {
+        yAxis->setScaleType(QCPAxis::stLogarithmic);
+        yAxis->setTicker(QSharedPointer<QCPAxisTickerLog>(new QCPAxisTickerLog));
+        yAxis->setLabel(QStringLiteral("|f(t)|"));
+    }
+    yAxis->setRange(fLow, fHigh);
+    replot();
 }
 
 int ScrnPlot::DrawnPoints() const {

@@ -44,6 +44,10 @@ class ScrnPlot : public QCustomPlot {
     int DrawnPoints() const;
     // The names of the curves in the built-in legend, shown for image files.
     void ShowLegend(bool shown);
+    // The result over t from `from` to `to` on a logarithmic axis, f on a
+    // linear axis from fLow to fHigh or, with logF, a logarithmic one (only
+    // positive values show). The next ClearScreen returns to linear axes.
+    void ShowLogTime(double from, double to, double fLow, double fHigh, bool logF);
 
   private:
     void SetAxes(const PlotContent& content);
