@@ -11,6 +11,7 @@
 #include "console_view.h"
 #include "fileio/text_file.h"
 #include "interp/interpreter.h"
+#include "plot_option.h"
 #include "transform/accurate/accuracy_messages.h"
 #include "transform/accurate/time_grid.h"
 #include "transform/program/program_function.h"
@@ -52,17 +53,26 @@ TimeGrid AskedTimes(const InvertOptions& options) {
     return grid;
 }
 
-// The accurate inversion's table to --csv or standard output.
-int WriteAccurateCsv(const AccurateResult& result, const InvertOptions& options) {
+// The accurate inversion's table to --csv or standard output, and its plot
+// over the FFT's to --plot.
+int WriteAccurateOutputs(const TransformDriver& driver, const AccurateResult& result,
+                         const InvertOptions& options) {
     const std::string csv = AccurateCsv(result);
     if (!options.outputs.csv) {
         std::cout << csv;
-        return 0;
+    } else if (const WriteResult written = WriteBytesAtomic(*options.outputs.csv, csv);
+               !written.ok) {
+        std::cerr << "lapdesk-cli invert: " << written.reason << '\n';
+        return 1;
     }
-    const WriteResult written = WriteBytesAtomic(*options.outputs.csv, csv);
-    if (written.ok) return 0;
-    std::cerr << "lapdesk-cli invert: " << written.reason << '\n';
-    return 1;
+    if (options.outputs.plot) {
+        const std::string reason = WritePlotImage(driver, *options.outputs.plot, &result);
+        if (!reason.empty()) {
+            std::cerr << "lapdesk-cli invert: " << reason << '\n';
+            return 1;
+        }
+    }
+    return 0;
 }
 
 int RunInvert(const InvertOptions& options) {
@@ -125,7 +135,7 @@ int RunInvert(const InvertOptions& options) {
     }
     int status = 0;
     if (accurate) {
-        status = WriteAccurateCsv(*report.accurate, options);
+        status = WriteAccurateOutputs(driver, *report.accurate, options);
     } else if (report.band && !report.band->ok) {
         std::cerr << "lapdesk-cli invert: " << report.band->reason << '\n';
         return 1;

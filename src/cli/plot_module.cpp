@@ -23,7 +23,8 @@ void QuietMessages(QtMsgType type, const QMessageLogContext&, const QString& mes
 
 // Draws on Qt's offscreen platform, so no display is needed.
 extern "C" [[gnu::visibility("default")]] void LapdeskWritePlotImage(
-    const lapdesk::TransformDriver& driver, const std::string& path, std::string& reason) {
+    const lapdesk::TransformDriver& driver, const lapdesk::AccurateResult* accurate,
+    const std::string& path, std::string& reason) {
     static_assert(std::is_same_v<decltype(&LapdeskWritePlotImage), lapdesk::cli::PlotModuleEntry>);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QtMessageHandler previous = qInstallMessageHandler(QuietMessages);
@@ -32,7 +33,9 @@ extern "C" [[gnu::visibility("default")]] void LapdeskWritePlotImage(
     char* argv[] = {name, nullptr};
     {
         QApplication app(argc, argv);
-        reason = lapdesk::SavePlotImage(driver, QString::fromStdString(path)).toStdString();
+        reason =
+            lapdesk::SavePlotImage(driver, QString::fromStdString(path), QSize(960, 600), accurate)
+                .toStdString();
     }
     qInstallMessageHandler(previous);
 }

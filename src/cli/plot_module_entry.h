@@ -7,16 +7,17 @@
 
 namespace lapdesk {
 class TransformDriver;
-}
+struct AccurateResult;
+}  // namespace lapdesk
 
 namespace lapdesk::cli {
 
 inline constexpr const char* kPlotModuleFile = "lapdesk-cli-plot.so";
 inline constexpr const char* kPlotModuleEntry = "LapdeskWritePlotImage";
 
-// Draws f(t) of the driver into the PNG or SVG file at path; reason is left
-// empty, or says why it failed.
-using PlotModuleEntry = void (*)(const TransformDriver& driver, const std::string& path,
-                                 std::string& reason);
+// Draws f(t) of the driver, and the accurate result when given, into the
+// PNG or SVG file at path; reason is left empty, or says why it failed.
+using PlotModuleEntry = void (*)(const TransformDriver& driver, const AccurateResult* accurate,
+                                 const std::string& path, std::string& reason);
 
 }  // namespace lapdesk::cli

@@ -37,7 +37,8 @@ std::string PlotUnavailableReason() {
 
 // The module stays loaded until the process ends: Qt does not expect its
 // libraries to be unloaded under it.
-std::string WritePlotImage(const TransformDriver& driver, const std::string& path) {
+std::string WritePlotImage(const TransformDriver& driver, const std::string& path,
+                           const AccurateResult* accurate) {
     const std::filesystem::path module = FindPlotModule();
     if (module.empty()) return NotFound();
     void* handle = dlopen(module.c_str(), RTLD_NOW | RTLD_LOCAL);
@@ -46,7 +47,7 @@ std::string WritePlotImage(const TransformDriver& driver, const std::string& pat
     if (entry == nullptr)
         return std::string("グラフ出力モジュールが壊れています: ") + module.string();
     std::string reason;
-    entry(driver, path, reason);
+    entry(driver, accurate, path, reason);
     return reason;
 }
 

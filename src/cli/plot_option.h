@@ -6,7 +6,8 @@
 
 namespace lapdesk {
 class TransformDriver;
-}
+struct AccurateResult;
+}  // namespace lapdesk
 
 namespace lapdesk::cli {
 
@@ -14,8 +15,9 @@ namespace lapdesk::cli {
 // the tool looks for it. Otherwise the reason, for the option's check.
 std::string PlotUnavailableReason();
 
-// Draws f(t) with the transform window's plot code. Returns "" or why it
-// failed.
-std::string WritePlotImage(const TransformDriver& driver, const std::string& path);
+// Draws f(t) with the transform window's plot code, and the accurate result
+// over it when given. Returns "" or why it failed.
+std::string WritePlotImage(const TransformDriver& driver, const std::string& path,
+                           const AccurateResult* accurate = nullptr);
 
 }  // namespace lapdesk::cli

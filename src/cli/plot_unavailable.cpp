@@ -7,7 +7,7 @@ std::string PlotUnavailableReason() {
     return "このビルド（Qt なしの core ビルド）では --plot は使えません";
 }
 
-std::string WritePlotImage(const TransformDriver&, const std::string&) {
+std::string WritePlotImage(const TransformDriver&, const std::string&, const AccurateResult*) {
     return PlotUnavailableReason();
 }
 

@@ -31,3 +31,12 @@ run_cli(1 invert ${PROGRAM} -N 128 --plot ${WORK}/f.txt)
 if(NOT errors MATCHES "\\.png or \\.svg")
   message(FATAL_ERROR "no reason given for the wrong suffix:\n${errors}")
 endif()
+
+# The accurate result over six decades: drawn over the FFT's on a log t axis
+# (the SVG then has tick labels for each decade).
+run_cli(0 invert ${PROGRAM} --method dehoog --times 1e-3:1e3:61:log --csv ${WORK}/a.csv
+        --plot ${WORK}/a.svg)
+file(READ ${WORK}/a.svg svg)
+if(NOT svg MATCHES "高精度" OR NOT svg MATCHES ">0\\.001<" OR NOT svg MATCHES ">1000<")
+  message(FATAL_ERROR "a.svg lacks the accurate curve or its log t axis")
+endif()

@@ -8,10 +8,13 @@
 namespace lapdesk {
 
 class TransformDriver;
+struct AccurateResult;
 
-// Draws f(t) with its legend and a title naming N, T and gamma0. Needs a
-// QApplication (an offscreen one will do). Returns "" or why it failed.
+// Draws f(t) with its legend and a title naming N, T and gamma0, and, when
+// given, the accurate result over it (its flagged points as crosses; over
+// two decades or more of t, on a log t axis). Needs a QApplication (an
+// offscreen one will do). Returns "" or why it failed.
 QString SavePlotImage(const TransformDriver& driver, const QString& path,
-                      QSize size = QSize(960, 600));
+                      QSize size = QSize(960, 600), const AccurateResult* accurate = nullptr);
 
 }  // namespace lapdesk
