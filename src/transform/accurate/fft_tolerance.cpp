@@ -17,6 +17,7 @@ namespace {
 constexpr double kPartShare = 0.4;
 constexpr int kLargestN = 4096;
 constexpr double kPaidOff = 2.0 / 3.0;
+constexpr double kAsGood = 1.1;
 
 // A run's band, told apart into its parts, relative to max |f|, over the
 // reliable part of the record.
@@ -142,7 +143,9 @@ FftChoice ChooseFftParameters(TransformDriver& driver, const LaplaceFunction& f,
         // the method for this F (rounding, or the start of the record): no
         // more runs.
         const bool paidOff = m.total <= kPaidOff * best.total;
-        if (m.total < best.total) {
+        // A run about as good as the best is kept over it: it has more
+        // points or damping, and the values spent on it are not wasted.
+        if (m.total <= kAsGood * best.total) {
             best = std::move(m);
             bestLine = LineValuesFromStore(trial);
             choice.N = n;
