@@ -289,12 +289,14 @@ void AccuracyView::Decorate(const TransformDriver& fft) {
     if (!Shows(fft)) return;
     const AccuracyLayers layers = MakeAccuracyLayers(fft, *report_);
     const bool logTime = Axis() != TimeAxis::Linear;
-    // On a log axis t = 0 has no place: the start's zone and band point go.
+    // On a log axis t = 0 has no place, and the untrusted ends of the record
+    // would read as features of f: the FFT's band is kept to its trusted part.
     Curve bandOutline = layers.bandOutline;
     if (logTime) {
         ShowOnLogTime(layers);
         for (std::size_t k = bandOutline.x.size(); k-- > 0;) {
-            if (bandOutline.x[k] > 0) continue;
+            const double t = bandOutline.x[k];
+            if (t >= layers.unreliableStart.upper && t <= layers.unreliableEnd.lower) continue;
             bandOutline.x.erase(bandOutline.x.begin() + static_cast<long>(k));
             bandOutline.y.erase(bandOutline.y.begin() + static_cast<long>(k));
         }
@@ -334,6 +336,22 @@ void AccuracyView::ShowOnLogTime(const AccuracyLayers& layers) {
         high = std::max(high, y);
     }
     if (times.empty() || !(low <= high)) return;
+    // Over decades of t the FFT's untrusted ends would read as features of
+    // f (and its values at or below 0 fall off a log |f| axis): they go.
+    if (scrn_->graphCount() > 0) {
+        QCPGraph* fft = scrn_->graph(0);
+        fft->data()->removeBefore(layers.unreliableStart.upper);
+        fft->data()->removeAfter(layers.unreliableEnd.lower);
+        if (logF) {
+            QVector<double> keys, values;
+            for (const QCPGraphData& point : *fft->data()) {
+                if (point.value <= 0) continue;
+                keys << point.key;
+                values << point.value;
+            }
+            fft->setData(keys, values, true);
+        }
+    }
     const double margin = logF ? 0.0 : 0.05 * std::max(high - low, 1e-12);
     scrn_->ShowLogTime(times.front(), times.back(), logF ? low / 2 : low - margin,
                        logF ? high * 2 : high + margin, logF);
