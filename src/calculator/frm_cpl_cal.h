@@ -70,7 +70,6 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     void ButtonStop_Click();
     void MenueExeList_Click();
     void Waite();
-    void SetStopRequested(bool on) { stopRequested_ = on; }
     // The view the transform window shows while it makes its data: the
     // running panel in place of the keyboard and the hint.
     void SetProgressView(bool on);

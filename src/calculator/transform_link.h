@@ -1,6 +1,6 @@
 // What the calculator window calls on the windows it works for: the transform
-// window, whose input function F(p) is a calculator program, and the data
-// channel client (the import wizard), which fills the channel menus.
+// window, whose input function F(p) is a calculator program, and a data
+// channel client, which fills the channel menus with its channels.
 #pragma once
 
 class QMenu;

@@ -90,33 +90,6 @@ bool Evaluator::EvalSum(const SumScan& scan, Complex& value) {
     return true;
 }
 
-bool Evaluator::EvalTerm(std::string_view& text, Complex& value) {
-    const ScanCache::Evaluating evaluating(ScanCache::Instance());
-    Complex result;
-    if (!EvalScannedTerm(SumScan::OfTerm(text), 0, result)) return false;
-    value = result;
-    text = {};
-    return true;
-}
-
-bool Evaluator::EvalFactor(std::string_view& text, Complex& value) {
-    const ScanCache::Evaluating evaluating(ScanCache::Instance());
-    Complex result;
-    if (!EvalScannedFactor(SumScan::OfFactor(text), 0, result)) return false;
-    value = result;
-    text = {};
-    return true;
-}
-
-bool Evaluator::EvalPrimary(std::string_view& text, Complex& value) {
-    const ScanCache::Evaluating evaluating(ScanCache::Instance());
-    Complex result;
-    if (!EvalScannedPrimary(PrimaryScan(text), result)) return false;
-    value = result;
-    text = {};
-    return true;
-}
-
 // sum -> [+|-] term { (+|-) term }
 bool Evaluator::EvalScannedSum(const SumScan& scan, Complex& value) {
     NestingGuard guard;

@@ -19,13 +19,10 @@ class Evaluator {
   public:
     explicit Evaluator(NameScope& scope) : scope_(scope) {}
 
-    // Each level consumes the text from the left and leaves it empty on
-    // success. Syntax faults return false (see failure()); arithmetic faults
-    // raise RuntimeFault, which the caller's boundary traps.
+    // Consumes the text from the left and leaves it empty on success.
+    // Syntax faults return false (see failure()); arithmetic faults raise
+    // RuntimeFault, which the caller's boundary traps.
     bool EvalSum(std::string_view& text, Complex& value);
-    bool EvalTerm(std::string_view& text, Complex& value);
-    bool EvalFactor(std::string_view& text, Complex& value);
-    bool EvalPrimary(std::string_view& text, Complex& value);
     // A whole text by the scan its caller keeps for it (a KeptScan).
     bool EvalSum(const SumScan& scan, Complex& value);
 
@@ -44,7 +41,6 @@ class Evaluator {
     // Why the last evaluation failed, for the user's message; empty when the
     // reason is only "not a valid expression".
     const std::string& failure() const { return failure_; }
-    void ClearFailure() { failure_.clear(); }
 
   private:
     // What the arguments of the primary being tried evaluated to.

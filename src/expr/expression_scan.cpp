@@ -123,19 +123,6 @@ SumScan::SumScan(std::string_view text) : bracketDepth(BracketDepth(text)) {
     }
 }
 
-SumScan SumScan::OfTerm(std::string_view text) {
-    SumScan scan;
-    scan.ScanTerm(0, text);
-    scan.sum.count = 1;
-    return scan;
-}
-
-SumScan SumScan::OfFactor(std::string_view text) {
-    SumScan scan;
-    scan.ScanFactor(0, text);
-    return scan;
-}
-
 PrimaryScan::PrimaryScan(std::string_view whole) : text(Trim(whole)) {
     if (text.empty()) return;
     if (text.back() == ')') {

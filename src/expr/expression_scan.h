@@ -73,9 +73,6 @@ struct SumScan {
     SumScan() = default;
     // sum -> [+|-] term { (+|-) term }
     explicit SumScan(std::string_view text);
-    // term -> factor { (*|/) factor } and factor -> primary { ^ primary }
-    static SumScan OfTerm(std::string_view text);
-    static SumScan OfFactor(std::string_view text);
 
     std::size_t bracketDepth = 0;  // checked against the nesting limits first
     Operand sum;                   // its range of terms

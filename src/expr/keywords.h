@@ -7,7 +7,8 @@
 namespace lapdesk {
 
 // Statement codes of the keyword table; an assignment classifies as
-// kAssignmentCode, and analysis gives kAssignmentKind and kBareCallKind.
+// kAssignmentCode; analysis gives an assignment the kind Assignment and a
+// call without Call the kind BareCall.
 namespace kw {
 inline constexpr std::int16_t kAssignmentCode = -1;
 inline constexpr std::int16_t End = 1;

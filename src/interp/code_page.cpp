@@ -66,7 +66,7 @@ void ClsCode::SetCode(std::int16_t i, std::int16_t lnNo, std::string text) {
         lines_[static_cast<std::size_t>(i)].Text = std::move(text);
         lines_[static_cast<std::size_t>(i)].LnNo = lnNo;
     } else {
-        Add16(LineNum(), 1);  // a page holds at most 32767 lines
+        RequireRoomForOneMore(LineNum());  // a page holds at most 32767 lines
         lines_.push_back(CodeLine{std::move(text), lnNo});
     }
     SetAnalized(false);

@@ -104,7 +104,6 @@ class ClsCode : public NameScope {
     // own failure is to be told apart from an earlier one.
     const std::string& ErrorText() const { return errorText_; }
     void ClearErrorText() { errorText_.clear(); }
-    std::int16_t CurrentLine() const { return currentLine_; }
 
     // NameScope: how expressions on this page read names and call functions.
     bool ReadVariable(Evaluator& evaluator, std::string_view name,

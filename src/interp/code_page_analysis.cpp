@@ -214,7 +214,7 @@ bool ClsCode::AnalyseAssignment(std::string_view text, bool& isAssignment) {
         if (!parsed.subscripts.empty()) code.Subscript1 = parsed.subscripts[0];
         if (parsed.subscripts.size() > 1) code.Subscript2 = parsed.subscripts[1];
     }
-    Add16(Count(statements_.size()), 1);
+    RequireRoomForOneMore(Count(statements_.size()));
     code.ExpressionScan = std::make_shared<const KeptScan<SumScan>>(code.Expression);
     statements_.push_back(std::move(code));
     return true;
@@ -241,7 +241,7 @@ bool ClsCode::AnalyseFor(std::int16_t& i, std::string_view rest) {
     }
     if (block.VariableIndex < 0) block.VariableIndex = AppendVariable(name, 0, 0, 0);
     const std::int16_t entry = Count(fors_.size());
-    Add16(entry, 1);
+    RequireRoomForOneMore(entry);
     fors_.push_back(std::move(block));
     const std::int16_t forLine = i;
     const std::int16_t outer = innermostFor_;
@@ -268,7 +268,7 @@ bool ClsCode::AnalyseDo(std::int16_t& i, std::string_view rest) {
     block.DoLine = i;
     if (!ConditionWord(rest, block.DoWord, block.DoCondition)) return Fail("Do文");
     const std::int16_t entry = Count(dos_.size());
-    Add16(entry, 1);
+    RequireRoomForOneMore(entry);
     dos_.push_back(std::move(block));
     const std::int16_t doLine = i;
     const std::int16_t outer = innermostDo_;
@@ -318,7 +318,7 @@ bool ClsCode::AnalyseIf(std::int16_t& i, std::string_view rest) {
     if (!ThenCondition(rest, condition)) return Fail("IF文判別式");
     block.Conditions.push_back(condition);
     const std::int16_t entry = Count(ifs_.size());
-    Add16(entry, 1);
+    RequireRoomForOneMore(entry);
     ifs_.push_back(std::move(block));
     const std::int16_t ifLine = i;
     MarkLine(i, kw::If, entry, 0);
@@ -358,7 +358,7 @@ bool ClsCode::AnalyseSelect(std::int16_t& i, std::string_view rest) {
     SelectBlock block;
     block.Selector = std::string(Trim(selectorText));
     const std::int16_t entry = Count(selects_.size());
-    Add16(entry, 1);
+    RequireRoomForOneMore(entry);
     selects_.push_back(std::move(block));
     const std::int16_t selectLine = i;
     MarkLine(i, kw::Select, entry, -999);

@@ -36,7 +36,7 @@ std::int16_t ClsCode::AppendVariable(std::string_view name, std::int16_t typ, st
                                      std::int16_t nj) {
     const std::int16_t ln = Sub16(Mul16(Add16(ni, 1), Add16(nj, 1)), 1);
     const std::int16_t index = NumofMemory();
-    Add16(index, 1);
+    RequireRoomForOneMore(index);
     memory_.push_back(MemoryRec{std::string(name), typ, ni, nj, ln,
                                 std::vector<Complex>(static_cast<std::size_t>(ln) + 1)});
     NamesChanged();

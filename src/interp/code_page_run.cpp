@@ -40,8 +40,6 @@ class CallLevel {
     NestingGuard stack_;
 };
 
-// True when the expression is one matrix function call as a whole, whose
-// array result is then stored into the target.
 // Counts the frames of a page that are running, for as long as one runs.
 class RunningFrame {
   public:
@@ -54,6 +52,8 @@ class RunningFrame {
     int& frames_;
 };
 
+// True when the expression is one matrix function call as a whole, whose
+// array result is then stored into the target.
 bool IsWholeMatrixCall(std::string_view expression, std::size_t& row) {
     expression = Trim(expression);
     const auto found = FindMatrixFunction(expression);

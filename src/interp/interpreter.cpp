@@ -60,8 +60,10 @@ bool BeginsFunction(std::string_view statement) {
 
 }  // namespace
 
+// The tables are filled on first use; the angle unit and the random seed,
+// which belong to the whole process, are left as another session set them.
 Interpreter::Interpreter(InterpreterView& view) : view_(&view) {
-    InitVocabulary();
+    GetVocabulary();
 }
 
 Interpreter::~Interpreter() = default;

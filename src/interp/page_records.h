@@ -30,7 +30,7 @@ struct MemoryRec {
 struct CodeLine {
     std::string Text;
     std::int16_t LnNo = 0;          // entry of the program list to highlight
-    std::int16_t Kind = -1;         // statement code; 100 assignment, 22 bare call
+    std::int16_t Kind = -1;         // statement code; kw::Assignment, kw::BareCall too
     std::int16_t CodeIndex = -999;  // entry in the table of its kind
     std::int16_t Link = -999;       // branch number inside If / Select Case
 };

@@ -31,14 +31,6 @@ std::size_t FindTextNoCase(std::string_view text, std::string_view pattern) {
     return FindText(1, text, pattern, 1);
 }
 
-std::size_t FindTextLastNoCase(std::string_view text, std::string_view pattern) {
-    if (pattern.size() > text.size()) return 0;
-    for (std::size_t at = text.size() - pattern.size() + 1; at-- > 0;) {
-        if (MatchesAt(text, at, pattern, 1)) return at + 1;
-    }
-    return 0;
-}
-
 std::size_t FindWordNoCase(std::string_view text, std::string_view word) {
     for (std::size_t pos = FindTextNoCase(text, word); pos != 0;
          pos = FindText(pos + 1, text, word, 1)) {

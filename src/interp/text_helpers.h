@@ -15,7 +15,6 @@ inline constexpr std::string_view kCrLf = "\r\n";
 std::size_t FindText(std::size_t start, std::string_view text, std::string_view pattern,
                      int compare);
 std::size_t FindTextNoCase(std::string_view text, std::string_view pattern);
-std::size_t FindTextLastNoCase(std::string_view text, std::string_view pattern);
 
 // 1-based position of `word` as a whole word (ignoring case), 0 when absent.
 std::size_t FindWordNoCase(std::string_view text, std::string_view word);

@@ -13,8 +13,7 @@ namespace lapdesk {
 
 namespace {
 
-// pi as 4*atan(1), computed on first use so that it is ready whatever the
-// order of static initialisation.
+// pi as 4*atan(1): the value every result of the transform was made with.
 double Pi() {
     static const double pi = 4.0 * std::atan(1.0);
     return pi;

@@ -42,6 +42,11 @@ std::int16_t ToInt16(long long x);
 inline std::int16_t Add16(std::int16_t a, std::int16_t b) {
     return ToInt16(static_cast<long long>(a) + b);
 }
+// A table of `count` entries can take one more only while count + 1 is
+// still a 16-bit number; otherwise the overflow fault.
+inline void RequireRoomForOneMore(std::int16_t count) {
+    ToInt16(static_cast<long long>(count) + 1);
+}
 inline std::int16_t Sub16(std::int16_t a, std::int16_t b) {
     return ToInt16(static_cast<long long>(a) - b);
 }

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "session.h"
+#include "values/complex.h"
 
 namespace lapdesk {
 namespace {
@@ -123,6 +124,18 @@ TEST(Immediate, SubscriptThatDeclaresAGlobal) {
     ASSERT_TRUE(s.Line("Dim A(3)").ok);
     ASSERT_TRUE(s.Line("A(Main()) = 6").ok);
     EXPECT_EQ(s.Line("A(1)").value.Re, 6.0);
+}
+
+// The angle unit belongs to the whole process: a session made later does
+// not set it back to radians under one that chose degrees.
+TEST(Immediate, ANewSessionLeavesTheAngleUnitAsItWas) {
+    Session degrees;
+    AngleUnit = kDegreeUnit;  // as the degrees option sets it
+    Session later;
+    const ImmediateResult sine = degrees.Line("Sin(90)");
+    AngleUnit = 1.0;
+    ASSERT_TRUE(sine.ok);
+    EXPECT_NEAR(sine.value.Re, 1.0, 1e-15);
 }
 
 }  // namespace

@@ -80,10 +80,4 @@ SingularityCheck CheckSingularity(const Conditions& c, const LineValues& line,
     return check;
 }
 
-SingularityCheck CannotVerifyFileData() {
-    SingularityCheck check;
-    check.reason = "ファイルから読んだデータには F がない";
-    return check;
-}
-
 }  // namespace lapdesk

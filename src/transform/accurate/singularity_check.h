@@ -41,7 +41,4 @@ struct SingularityCheck {
 SingularityCheck CheckSingularity(const Conditions& conditions, const LineValues& line,
                                   const LaplaceFunction& f);
 
-// For samples read from a file there is no F to ask: nothing runs.
-SingularityCheck CannotVerifyFileData();
-
 }  // namespace lapdesk
