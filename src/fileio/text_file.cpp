@@ -12,15 +12,24 @@ namespace lapdesk {
 
 namespace {
 
-// Built by appending: GCC 12 gives a false -Wrestrict on "'" + text at -O3.
-std::string Quoted(const std::filesystem::path& path) {
-    std::string quoted(1, '\'');
-    quoted.append(path.string()).push_back('\'');
-    return quoted;
+std::string SystemReason(const std::string& what, const std::filesystem::path& path) {
+    return what + " " + QuotedPath(path) + ": " + std::strerror(errno);
 }
 
-std::string SystemReason(const std::string& what, const std::filesystem::path& path) {
-    return what + " " + Quoted(path) + ": " + std::strerror(errno);
+// Why a file could not be opened or read, by the system's error number.
+std::string ReadFailure(int error, bool opening) {
+    switch (error) {
+        case ENOENT:
+            return "ファイルがありません";
+        case EACCES:
+        case EPERM:
+            return "ファイルを読む権限がありません";
+        case EISDIR:
+            return "フォルダなので読めません（ファイルを選んでください）";
+        default:
+            return std::string(opening ? "ファイルを開けません" : "ファイルを読めません") +
+                   "（システムのエラー番号 " + std::to_string(error) + "）";
+    }
 }
 
 struct BytesResult {
@@ -31,15 +40,46 @@ struct BytesResult {
 
 BytesResult ReadBytes(const std::filesystem::path& path) {
     std::FILE* file = std::fopen(path.c_str(), "rb");
-    if (file == nullptr) return {false, {}, SystemReason("cannot open", path)};
+    if (file == nullptr) return {false, {}, QuotedPath(path) + "：" + ReadFailure(errno, true)};
     BytesResult result{true, {}, {}};
     char buffer[65536];
     std::size_t n = 0;
     while ((n = std::fread(buffer, 1, sizeof buffer, file)) > 0)
         result.bytes.append(buffer, n);
-    if (std::ferror(file)) result = {false, {}, SystemReason("cannot read", path)};
+    if (std::ferror(file))
+        result = {false, {}, QuotedPath(path) + "：" + ReadFailure(errno, false)};
     std::fclose(file);
     return result;
+}
+
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
+// Why the bytes are neither UTF-8 nor cp932, by the first line that fails.
+// Line breaks are single bytes that no cp932 character contains, so the raw
+// bytes split into the same lines as the text.
+std::string DecodeFailure(std::string_view bytes) {
+    const bool marked = bytes.starts_with(kUtf8Mark);
+    if (marked) bytes.remove_prefix(kUtf8Mark.size());
+    const std::vector<std::string> lines = SplitLines(bytes);
+    const auto lineName = [](std::size_t i) { return std::to_string(i + 1) + " 行目"; };
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (marked && !IsValidUtf8(lines[i])) {
+            return "UTF-8 の印（BOM）で始まるのに、" + lineName(i) + "が UTF-8 として読めません";
+        }
+        if (!marked && !IsValidUtf8(lines[i]) && !Cp932ToUtf8(lines[i]).ok) {
+            return lineName(i) + "に cp932 でも UTF-8 でもない文字があります";
+        }
+    }
+    if (!Cp932ToUtf8("A").ok) return "この環境には cp932 の文字変換がありません";
+    // Every line reads in one of the two codes, but not all in the same.
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (!Cp932ToUtf8(lines[i]).ok) {
+            return lineName(i) +
+                   "は UTF-8 ですが、ほかの行は cp932 "
+                   "なので読めません（文字コードが混ざっています）";
+        }
+    }
+    return "cp932 でも UTF-8 でもない文字があります";
 }
 
 // Creates a new file next to the target under a name no one else uses.
@@ -86,11 +126,18 @@ bool FillTemporary(int fd, const std::filesystem::path& target, std::string_view
 
 }  // namespace
 
+// Built by appending: GCC 12 gives a false -Wrestrict on "'" + text at -O3.
+std::string QuotedPath(const std::filesystem::path& path) {
+    std::string quoted(1, '\'');
+    quoted.append(path.string()).push_back('\'');
+    return quoted;
+}
+
 TextResult ReadText(const std::filesystem::path& path) {
     BytesResult read = ReadBytes(path);
     if (!read.ok) return {false, {}, std::move(read.reason)};
     TextResult text = DecodeText(read.bytes);
-    if (!text.ok) text.reason = Quoted(path) + ": " + text.reason;
+    if (!text.ok) text.reason = QuotedPath(path) + "：" + DecodeFailure(read.bytes);
     return text;
 }
 
@@ -119,7 +166,7 @@ WriteResult WriteBytesAtomic(const std::filesystem::path& path, std::string_view
 
 WriteResult WriteTextAtomic(const std::filesystem::path& path, std::string_view utf8Text) {
     const TextResult encoded = Utf8ToCp932(utf8Text);
-    if (!encoded.ok) return {false, "cannot save " + Quoted(path) + ": " + encoded.reason};
+    if (!encoded.ok) return {false, "cannot save " + QuotedPath(path) + ": " + encoded.reason};
     return WriteBytesAtomic(path, encoded.text);
 }
 

@@ -22,7 +22,12 @@ struct WriteResult {
     std::string reason;
 };
 
+// The path between single quotes, as reasons name a file.
+std::string QuotedPath(const std::filesystem::path& path);
+
 // The whole file as UTF-8, line breaks as they stand; cp932 or UTF-8 input.
+// A failure's reason names the file and says, in words, what kept it from
+// being read: the system's error, or the first line in neither code.
 TextResult ReadText(const std::filesystem::path& path);
 // The file as UTF-8 lines (see SplitLines).
 LinesResult ReadTextLines(const std::filesystem::path& path);

@@ -1,100 +1,15 @@
 #include "importer/import_preview.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <charconv>
 #include <cmath>
 #include <cstdio>
-#include <system_error>
 
-#include "fileio/text_codec.h"
+#include "fileio/text_file.h"
+#include "transform/split_numbers.h"
 
 namespace lapdesk {
 
 namespace {
-
-// 'path', built by appending (GCC 12 reports a false -Wrestrict for a
-// literal + std::string at -O3).
-std::string QuotedPath(const std::filesystem::path& path) {
-    std::string quoted(1, '\'');
-    quoted.append(path.string()).push_back('\'');
-    return quoted;
-}
-
-// Why a file could not be opened or read, by the system's error number.
-std::string OpenFailure(int error, bool opening) {
-    switch (error) {
-        case ENOENT:
-            return "ファイルがありません";
-        case EACCES:
-        case EPERM:
-            return "ファイルを読む権限がありません";
-        case EISDIR:
-            return "フォルダなので読めません（ファイルを選んでください）";
-        default:
-            return std::string(opening ? "ファイルを開けません" : "ファイルを読めません") +
-                   "（システムのエラー番号 " + std::to_string(error) + "）";
-    }
-}
-
-struct Bytes {
-    bool ok = false;
-    std::string bytes;
-    std::string reason;
-};
-
-Bytes ReadBytes(const std::filesystem::path& path) {
-    std::FILE* file = std::fopen(path.c_str(), "rb");
-    if (file == nullptr) return {false, {}, OpenFailure(errno, true)};
-    Bytes read{true, {}, {}};
-    char buffer[65536];
-    std::size_t n = 0;
-    while ((n = std::fread(buffer, 1, sizeof buffer, file)) > 0)
-        read.bytes.append(buffer, n);
-    if (std::ferror(file)) read = {false, {}, OpenFailure(errno, false)};
-    std::fclose(file);
-    return read;
-}
-
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-
-// Why the bytes are neither UTF-8 nor cp932, by the first line that fails.
-// Line breaks are single bytes that no cp932 character contains, so the raw
-// bytes split into the same lines as the text.
-std::string DecodeFailure(std::string_view bytes) {
-    const bool marked = bytes.starts_with(kUtf8Mark);
-    if (marked) bytes.remove_prefix(kUtf8Mark.size());
-    const std::vector<std::string> lines = SplitLines(bytes);
-    const auto lineName = [](std::size_t i) { return std::to_string(i + 1) + " 行目"; };
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (marked && !IsValidUtf8(lines[i])) {
-            return "UTF-8 の印（BOM）で始まるのに、" + lineName(i) + "が UTF-8 として読めません";
-        }
-        if (!marked && !IsValidUtf8(lines[i]) && !Cp932ToUtf8(lines[i]).ok) {
-            return lineName(i) + "に cp932 でも UTF-8 でもない文字があります";
-        }
-    }
-    if (!Cp932ToUtf8("A").ok) return "この環境には cp932 の文字変換がありません";
-    // Every line reads in one of the two codes, but not all in the same.
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (!Cp932ToUtf8(lines[i]).ok) {
-            return lineName(i) +
-                   "は UTF-8 ですが、ほかの行は cp932 "
-                   "なので読めません（文字コードが混ざっています）";
-        }
-    }
-    return "cp932 でも UTF-8 でもない文字があります";
-}
-
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
-std::size_t SkipDigits(std::string_view s, std::size_t i) {
-    while (i < s.size() && IsDigit(s[i]))
-        ++i;
-    return i;
-}
 
 // The text a line is quoted by: its first 40 characters (UTF-8 sequences
 // kept whole) between 「」, "…" when cut.
@@ -120,7 +35,7 @@ std::string DelimiterName(std::string_view delimiter) {
 }
 
 bool HasNumberAt(const std::vector<std::string_view>& pieces, std::size_t at) {
-    return at < pieces.size() && PieceNumber(pieces[at]).has_value();
+    return at < pieces.size() && LeadingNumberIfAny(pieces[at]).has_value();
 }
 
 // The real and imaginary parts at the first column (1-based) and the next.
@@ -148,7 +63,7 @@ std::optional<std::vector<long long>> IndexRun(const std::vector<std::string>& l
         const std::vector<std::string_view> pieces = SplitPieces(lines[i], delimiter);
         const auto at = static_cast<std::size_t>(column - 1);
         const std::optional<double> value =
-            at < pieces.size() ? PieceNumber(pieces[at]) : std::nullopt;
+            at < pieces.size() ? LeadingNumberIfAny(pieces[at]) : std::nullopt;
         if (!value || !(std::fabs(*value) < 1e15) || *value != std::trunc(*value))
             return std::nullopt;
         const auto count = static_cast<long long>(*value);
@@ -161,11 +76,8 @@ std::optional<std::vector<long long>> IndexRun(const std::vector<std::string>& l
 }  // namespace
 
 PreviewFile ReadPreviewFile(const std::filesystem::path& path) {
-    const Bytes read = ReadBytes(path);
-    if (!read.ok) return {false, {}, QuotedPath(path) + "：" + read.reason};
-    const TextResult text = DecodeText(read.bytes);
-    if (!text.ok) return {false, {}, QuotedPath(path) + "：" + DecodeFailure(read.bytes)};
-    return {true, SplitLines(text.text), {}};
+    LinesResult read = ReadTextLines(path);
+    return {read.ok, std::move(read.lines), std::move(read.reason)};
 }
 
 std::string PreviewEntry(int lineNumber, std::string_view text) {
@@ -243,32 +155,6 @@ std::vector<std::string_view> SplitPieces(std::string_view line, std::string_vie
     return pieces;
 }
 
-std::optional<double> PieceNumber(std::string_view piece) {
-    std::size_t i = 0;
-    if (i < piece.size() && (piece[i] == '+' || piece[i] == '-')) ++i;
-    const std::size_t start = i;
-    i = SkipDigits(piece, i);
-    std::size_t digits = i - start;
-    if (i < piece.size() && piece[i] == '.') {
-        const std::size_t fraction = i + 1;
-        i = SkipDigits(piece, fraction);
-        digits += i - fraction;
-    }
-    if (digits == 0) return std::nullopt;
-    const bool negative = piece.front() == '-';
-    double value = 0.0;
-    const auto parsed = std::from_chars(piece.data() + start, piece.data() + piece.size(), value);
-    if (parsed.ec == std::errc::result_out_of_range) {
-        // Too small when the exponent is negative, too large otherwise; the
-        // reader takes them as 0 and HUGE_VAL as well.
-        const std::string_view number(piece.data() + start,
-                                      static_cast<std::size_t>(parsed.ptr - piece.data()) - start);
-        const std::size_t e = number.find_first_of("Ee");
-        value = e != std::string_view::npos && number[e + 1] == '-' ? 0.0 : HUGE_VAL;
-    }
-    return negative ? -value : value;
-}
-
 std::vector<Doubt> FindDoubts(const std::vector<std::string>& lines, const ReadAnswers& answers) {
     std::vector<Doubt> doubts;
     if (answers.paramLine < 1 || answers.dataLine < 1 || answers.firstColumn < 1) return doubts;
@@ -278,8 +164,9 @@ std::vector<Doubt> FindDoubts(const std::vector<std::string>& lines, const ReadA
     if (has(answers.paramLine)) {
         const std::string& line = lines[answers.paramLine - 1];
         const std::vector<std::string_view> pieces = SplitPieces(line, delimiter);
-        if (std::none_of(pieces.begin(), pieces.end(),
-                         [](std::string_view piece) { return PieceNumber(piece).has_value(); })) {
+        if (std::none_of(pieces.begin(), pieces.end(), [](std::string_view piece) {
+                return LeadingNumberIfAny(piece).has_value();
+            })) {
             doubts.push_back({DoubtKind::NoParameters,
                               LineName("パラメータ行", answers.paramLine) + "には、" +
                                   DelimiterName(delimiter) +

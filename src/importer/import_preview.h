@@ -73,10 +73,6 @@ ReadAnswers SavedFileAnswers();
 // starts after the next delimiter at or after that position.
 std::vector<std::string_view> SplitPieces(std::string_view line, std::string_view delimiter);
 
-// The number a piece starts with ([sign] digits [. digits] [exponent]), or
-// none when it starts with no digit: the reader would take such a piece as 0.
-std::optional<double> PieceNumber(std::string_view piece);
-
 // An answer that does not fit what the file holds.
 enum class DoubtKind {
     NoParameters,   // the parameter line holds no number

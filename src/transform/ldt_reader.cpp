@@ -2,15 +2,13 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "fileio/text_codec.h"
+#include "fileio/text_file.h"
 #include "transform/split_numbers.h"
 #include "values/number_text.h"
 
@@ -152,79 +150,6 @@ Outcome ParseLapData(const std::vector<std::string>& lines, const ImportAnswers&
     return ParseSamples(lines, first, answers, row, data);
 }
 
-// 'path', built by appending (GCC 12 reports a false -Wrestrict for a
-// literal + std::string at -O3).
-std::string QuotedPath(const std::filesystem::path& path) {
-    std::string quoted(1, '\'');
-    quoted.append(path.string()).push_back('\'');
-    return quoted;
-}
-
-// Why a file could not be opened or read, by the system's error number.
-std::string SystemFailure(int error, bool opening) {
-    switch (error) {
-        case ENOENT:
-            return "ファイルがありません";
-        case EACCES:
-        case EPERM:
-            return "ファイルを読む権限がありません";
-        case EISDIR:
-            return "フォルダなので読めません（ファイルを選んでください）";
-        default:
-            return std::string(opening ? "ファイルを開けません" : "ファイルを読めません") +
-                   "（システムのエラー番号 " + std::to_string(error) + "）";
-    }
-}
-
-struct FileBytes {
-    bool ok = false;
-    std::string bytes;
-    std::string reason;
-};
-
-FileBytes ReadBytes(const std::filesystem::path& path) {
-    std::FILE* file = std::fopen(path.c_str(), "rb");
-    if (file == nullptr) return {false, {}, SystemFailure(errno, true)};
-    FileBytes read{true, {}, {}};
-    char buffer[65536];
-    std::size_t n = 0;
-    while ((n = std::fread(buffer, 1, sizeof buffer, file)) > 0)
-        read.bytes.append(buffer, n);
-    if (std::ferror(file)) read = {false, {}, SystemFailure(errno, false)};
-    std::fclose(file);
-    return read;
-}
-
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-
-// Why the bytes are neither UTF-8 nor cp932, by the first line that fails.
-// Line breaks are single bytes that no cp932 character contains, so the raw
-// bytes split into the same lines as the text.
-std::string DecodeFailure(std::string_view bytes) {
-    const bool marked = bytes.starts_with(kUtf8Mark);
-    if (marked) bytes.remove_prefix(kUtf8Mark.size());
-    const std::vector<std::string> lines = SplitLines(bytes);
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (marked && !IsValidUtf8(lines[i])) {
-            return "UTF-8 の印（BOM）で始まるのに、" + LineText(i + 1) +
-                   "が UTF-8 として読めません";
-        }
-        if (!marked && !IsValidUtf8(lines[i]) && !Cp932ToUtf8(lines[i]).ok) {
-            return LineText(i + 1) + "に cp932 でも UTF-8 でもない文字があります";
-        }
-    }
-    if (!Cp932ToUtf8("A").ok) return "この環境には cp932 の文字変換がありません";
-    // Every line reads in one of the two codes, but not all in the same.
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (!Cp932ToUtf8(lines[i]).ok) {
-            return LineText(i + 1) +
-                   "は UTF-8 ですが、ほかの行は cp932 "
-                   "なので読めません（文字コードが混ざっています）";
-        }
-    }
-    return "cp932 でも UTF-8 でもない文字があります";
-}
-
 Outcome ReadFailed(TransformDriver& driver, std::string reason) {
     driver.SetStatus("データ読込み失敗");
     return Outcome::Failure(std::move(reason));
@@ -235,10 +160,8 @@ Outcome ReadFailed(TransformDriver& driver, std::string reason) {
 Outcome ReadLapData(TransformDriver& driver, const std::filesystem::path& path,
                     const ImportAnswers& answers) {
     driver.SetStatus("");
-    const FileBytes read = ReadBytes(path);
-    if (!read.ok) return ReadFailed(driver, QuotedPath(path) + "：" + read.reason);
-    const TextResult text = DecodeText(read.bytes);
-    if (!text.ok) return ReadFailed(driver, QuotedPath(path) + "：" + DecodeFailure(read.bytes));
+    const TextResult text = ReadText(path);
+    if (!text.ok) return ReadFailed(driver, text.reason);
     return ReadLapLines(driver, SplitLines(text.text), QuotedPath(path), answers);
 }
 

@@ -67,6 +67,11 @@ bool TooSmallForDouble(std::string_view number) {
 
 }  // namespace
 
+std::optional<double> LeadingNumberIfAny(std::string_view text) {
+    if (NumberLength(text) == 0) return std::nullopt;
+    return LeadingNumber(text);
+}
+
 double LeadingNumber(std::string_view text) {
     std::string_view number = text.substr(0, NumberLength(text));
     if (number.empty()) return 0.0;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string_view>
 
 namespace lapdesk {
@@ -14,6 +15,8 @@ using NumberRow = std::array<double, 4>;
 // character that cannot continue it; no number gives 0. A number beyond the
 // range of a double gives +-HUGE_VAL, one too small for it gives 0.
 double LeadingNumber(std::string_view text);
+// The same, or none when the text does not begin with a number.
+std::optional<double> LeadingNumberIfAny(std::string_view text);
 
 // Splits a line into numbers: from each position (after spaces) the token
 // runs to the next space and its leading number is stored; the next token
