@@ -5,7 +5,6 @@
 #include <functional>
 #include <string>
 
-#include "transform/accurate/point_text.h"
 #include "values/number_text.h"
 
 namespace lapdesk {
@@ -24,40 +23,15 @@ class ExtraRun {
     }
 
     bool Run(const LaplaceFunction& f, const LineValues& known, FftErrorBand& out) {
-        driver_.BeginDataCreation();
-        const int nPos = driver_.GetConditions().NPos;
-        for (int k = 0; k <= nPos; ++k) {
-            const Complex s = driver_.SamplePoint(k);
-            Complex value;
-            if (k < static_cast<int>(known.size()) && known[k]) {
-                value = *known[k];
-            } else {
-                ++out.evaluations;
-                const FValue v = f(s);
-                if (v.stopped) {
-                    out.stopped = true;
-                    out.reason = "中断";
-                    return false;
-                }
-                if (!v.ok) return Fail(out, "s = " + PointText(s) + " で " + v.reason);
-                value = v.value;
-            }
-            const Outcome stored = driver_.StoreSample(k, value);
-            if (!stored.ok) return Fail(out, "s = " + PointText(s) + " で値が大きすぎる");
-        }
-        const Outcome inverted = driver_.FinishDataCreation();
-        if (!inverted.ok) return Fail(out, inverted.reason);
-        return true;
+        const Outcome made = MakeFftRun(driver_, f, known, out.evaluations, out.stopped);
+        if (out.stopped) out.reason = "中断";
+        if (!made.ok && !out.stopped) out.reason = "誤差帯の計算: " + made.reason;
+        return made.ok && !out.stopped;
     }
 
     double Y(int k) const { return driver_.Store()[kResult].Values[k]; }
 
   private:
-    static bool Fail(FftErrorBand& out, const std::string& why) {
-        out.reason = "誤差帯の計算: " + why;
-        return false;
-    }
-
     TransformDriver driver_;
 };
 

@@ -5,7 +5,6 @@
 
 #include "transform/accurate/accuracy_run.h"
 #include "transform/accurate/line_values.h"
-#include "transform/accurate/point_text.h"
 #include "values/number_text.h"
 
 namespace lapdesk {
@@ -47,29 +46,12 @@ Measured Measure(const TransformDriver& driver, const LaplaceFunction& f) {
     return m;
 }
 
-// Makes the data at N and gamma0 (T unchanged) and inverts them; F from
-// `known` where it has the value, else from f.
+// Makes the data at N and gamma0 (T unchanged) and inverts them.
 Outcome MakeRun(TransformDriver& driver, const LaplaceFunction& f, const LineValues& known, int n,
                 double gamma0, FftChoice& choice) {
     driver.SetWordNumber(std::to_string(n));
     driver.SetGanma(DoubleToText(gamma0));
-    driver.BeginDataCreation();
-    for (int k = 0; k <= driver.GetConditions().NPos; ++k) {
-        const Complex s = driver.SamplePoint(k);
-        Complex value;
-        if (k < static_cast<int>(known.size()) && known[k]) {
-            value = *known[k];
-        } else {
-            ++choice.evaluations;
-            const FValue v = f(s);
-            choice.stopped = choice.stopped || v.stopped;
-            if (!v.ok) return Outcome::Failure("s = " + PointText(s) + " で " + v.reason);
-            value = v.value;
-        }
-        const Outcome stored = driver.StoreSample(k, value);
-        if (!stored.ok) return stored;
-    }
-    return driver.FinishDataCreation();
+    return MakeFftRun(driver, f, known, choice.evaluations, choice.stopped);
 }
 
 // The next N and gamma0: each part brought to its share of the tolerance,

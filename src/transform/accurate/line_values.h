@@ -4,9 +4,11 @@
 // singularity check reuse these values instead of asking F again.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <vector>
 
+#include "transform/accurate/laplace_function.h"
 #include "transform/transform_driver.h"
 #include "values/complex.h"
 
@@ -15,5 +17,11 @@ namespace lapdesk {
 using LineValues = std::vector<std::optional<Complex>>;  // k = 0..N/2
 
 LineValues LineValuesFromStore(const TransformDriver& driver);
+
+// Makes the driver's data and inverts them (its N, T and gamma0 as set),
+// with F from `known` where it holds the value and from f elsewhere, each
+// value of f counted. A failure says at which s; a stop sets `stopped`.
+Outcome MakeFftRun(TransformDriver& driver, const LaplaceFunction& f, const LineValues& known,
+                   std::int64_t& evaluations, bool& stopped);
 
 }  // namespace lapdesk
