@@ -54,20 +54,23 @@ TimeGrid ParseTimeRange(std::string_view text) {
         return Failed("時刻の範囲は 0 < FROM ≤ TO にしてください: " + std::string(text));
     if (count < 1 || count > 100000 || count != std::floor(count))
         return Failed("COUNT は 1 から 100000 までの整数にしてください: " + std::string(text));
-    TimeGrid grid{true, {}, {}};
-    const auto n = static_cast<std::size_t>(count);
+    return {true, TimesBetween(from, to, static_cast<std::size_t>(count), log), {}};
+}
+
+std::vector<double> TimesBetween(double from, double to, std::size_t count, bool log) {
+    std::vector<double> times;
     // Weighted ends rather than steps added up: a decade grid then meets
     // 1, 10, 100 exactly.
     const double a = log ? std::log10(from) : from;
     const double b = log ? std::log10(to) : to;
-    const double last = n == 1 ? 1.0 : static_cast<double>(n - 1);
-    for (std::size_t k = 0; k < n; ++k) {
+    const double last = count == 1 ? 1.0 : static_cast<double>(count - 1);
+    for (std::size_t k = 0; k < count; ++k) {
         const double x = (a * (last - static_cast<double>(k)) + b * static_cast<double>(k)) / last;
-        grid.times.push_back(log ? std::pow(10.0, x) : x);
+        times.push_back(log ? std::pow(10.0, x) : x);
     }
-    grid.times.front() = from;  // exactly, whatever the rounding
-    grid.times.back() = n == 1 ? from : to;
-    return grid;
+    times.front() = from;  // exactly, whatever the rounding
+    times.back() = count == 1 ? from : to;
+    return times;
 }
 
 TimeGrid ParseTimeList(std::string_view text) {

@@ -21,6 +21,10 @@ struct TimeGrid {
 // 1e3; without ":log", evenly in t. COUNT 1 gives FROM alone.
 TimeGrid ParseTimeRange(std::string_view text);
 
+// count times from `from` to `to` (0 < from <= to, count >= 1), evenly in t
+// or in log t, the ends exactly.
+std::vector<double> TimesBetween(double from, double to, std::size_t count, bool log);
+
 // One t per line; blank lines and lines beginning with '#' are skipped.
 TimeGrid ParseTimeList(std::string_view text);
 

@@ -179,13 +179,8 @@ std::vector<double> AccuracyView::LogTimes() const {
     const double from = ends[0].trimmed().toDouble(&fromOk);
     const double to = ends[1].trimmed().toDouble(&toOk);
     if (!fromOk || !toOk || !(from > 0) || !(to > from) || !std::isfinite(to)) return {};
-    const int count = 1 + static_cast<int>(std::ceil(20 * std::log10(to / from)));
-    return ParseTimeRange(QStringLiteral("%1:%2:%3:log")
-                              .arg(from, 0, 'g', 17)
-                              .arg(to, 0, 'g', 17)
-                              .arg(std::min(count, 2001))
-                              .toStdString())
-        .times;
+    const double count = 1 + std::ceil(20 * std::log10(to / from));
+    return TimesBetween(from, to, static_cast<std::size_t>(std::min(count, 2001.0)), true);
 }
 
 std::optional<double> AccuracyView::Tolerance() const {
