@@ -46,16 +46,27 @@ double CplAbs(const Complex& a) {
     return Checked(std::sqrt(Checked(Checked(a.Re * a.Re) + Checked(a.Im * a.Im))));
 }
 
-// Principal argument in radians from the arctangent of the ratio of the parts.
-double CplArgRadians(const Complex& a) {
-    if (a.Im == 0.0) return a.Re < 0.0 ? kArgOfNegativeReal : 0.0;
-    if (a.Re == 0.0) return a.Im > 0.0 ? kArgOfNegativeReal / 2 : -kArgOfNegativeReal / 2;
-    const double t = std::atan(a.Im / a.Re);  // a ratio past the range is atan(inf)
+namespace {
+
+// Principal argument from the arctangent of the ratio of the parts, in a
+// unit of which half a turn is `halfTurn` and one unit is `radiansPerUnit`.
+double PrincipalArg(const Complex& a, double halfTurn, double radiansPerUnit) {
+    if (a.Im == 0.0) return a.Re < 0.0 ? halfTurn : 0.0;
+    if (a.Re == 0.0) return a.Im > 0.0 ? halfTurn / 2 : -halfTurn / 2;
+    // A ratio past the range is atan(inf).
+    const double t = Checked(std::atan(a.Im / a.Re) / radiansPerUnit);
     if (a.Re > 0.0) return t;
-    return a.Im > 0.0 ? t + kArgOfNegativeReal : t - kArgOfNegativeReal;
+    return a.Im > 0.0 ? t + halfTurn : t - halfTurn;
+}
+
+}  // namespace
+
+double CplArgRadians(const Complex& a) {
+    return PrincipalArg(a, kArgOfNegativeReal, 1.0);
 }
 
 double CplArg(const Complex& a) {
+    if (AngleUnit == kDegreeUnit) return PrincipalArg(a, 180.0, kDegreeUnit);
     return Checked(CplArgRadians(a) / AngleUnit);
 }
 

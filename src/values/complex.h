@@ -1,6 +1,8 @@
 // The one value type of the calculator language and its arithmetic.
 #pragma once
 
+#include <numbers>
+
 #include "values/fault.h"
 
 namespace lapdesk {
@@ -21,9 +23,11 @@ inline double AngleUnit = 1.0;
 // 0x400921FB54442D11, seven units below the nearest double to pi.
 inline constexpr double kArgOfNegativeReal = 3.14159265358979;
 
-// The angle unit for degrees, built on that same constant so that the
-// arguments it gives come out whole: Arg(1j) is 90 and Arg(-1) is 180.
-inline constexpr double kDegreeUnit = kArgOfNegativeReal / 180.0;
+// The angle unit for degrees: the nearest double to pi over 180, so that
+// Cos(60) is 0.5 and Tan(45) is 1 to the digits shown. Arguments in degrees
+// count half a turn as exactly 180 (CplArg), so Arg(1j) is 90 and Arg(-1)
+// is 180.
+inline constexpr double kDegreeUnit = std::numbers::pi / 180.0;
 
 // Every operation checks each floating-point step and raises a RuntimeFault
 // (fault.h) on overflow or an invalid result, so no infinity or NaN is ever

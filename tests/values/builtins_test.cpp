@@ -10,6 +10,7 @@
 #include "complex_near.h"
 #include "values/builtins.h"
 #include "values/fault.h"
+#include "values/number_text.h"
 
 namespace lapdesk {
 namespace {
@@ -151,6 +152,26 @@ TEST(ScalarFunctionsInDegrees, TakeAndGiveDegrees) {
         const std::vector<Complex> args{row.arg};
         ASSERT_TRUE(CallScalarFunction(row.code, args, result)) << row.name;
         EXPECT_TRUE(Near(result, row.expected, row.tolerance)) << row.name;
+    }
+}
+
+// What the user reads in degrees: the common angles come out as the exact
+// values, not one unit off in the fifteenth digit.
+TEST(ScalarFunctionsInDegrees, ShowTheCommonAnglesExactly) {
+    const AngleUnitScope degrees(kDegreeUnit);
+    const struct {
+        std::int16_t code;
+        Complex arg;
+        const char* shown;
+    } rows[] = {{kCos, {60, 0}, "0.5"}, {kTan, {45, 0}, "1"},   {kSin, {30, 0}, "0.5"},
+                {kArg, {0, 1}, "90"},   {kArg, {-1, 0}, "180"}, {kArg, {-1, 1}, "135"},
+                {kArg, {0, -1}, "-90"}, {kAtan, {1, 0}, "45"}};
+    for (const auto& row : rows) {
+        Complex result;
+        const std::vector<Complex> args{row.arg};
+        ASSERT_TRUE(CallScalarFunction(row.code, args, result)) << row.code;
+        EXPECT_EQ(ComplexToText(result, false), row.shown)
+            << "code " << row.code << " of " << row.arg;
     }
 }
 
