@@ -98,20 +98,29 @@ void FrmCplCal::ZoomFont(QWidget* widget) {
     widget->setFont(font);
 }
 
-// Shows the message and blocks the caller until it is double-clicked away;
-// the program buttons and the File menu wait with it. An abnormal end gets
-// the line it happened on, and the editor marks the line every located
-// error names.
 void FrmCplCal::Errmessage(const std::string& message) {
-    if (running_) ShowRunningPlace();  // the place the message speaks of
-    QString text = QString::fromStdString(message);
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    std::optional<ErrorLocation> location = ParseErrorLocation(text);
-    if (!location && faultLocation_) {
-        location = faultLocation_;
-        text += QLatin1Char('\n') + LocationText(*location);
+    ShowMessage(QString::fromStdString(message));
+}
+
+// A program's error names its statement and marks the statement's line; an
+// abnormal end gets the place it happened appended.
+void FrmCplCal::ShowProgramError(const ProgramError& error) {
+    QString text = QString::fromStdString(MessageText(error));
+    if (error.kind == ProgramErrorKind::AbnormalEnd && error.place.Known()) {
+        text += QStringLiteral("\r\n") + QString::fromStdString(PlaceName(error.place));
+        if (!error.place.text.empty()) {
+            text += QStringLiteral(": ") + QString::fromStdString(error.place.text);
+        }
     }
-    faultLocation_.reset();
+    MarkErrorLine(error.place);
+    ShowMessage(text);
+}
+
+// Shows the message and blocks the caller until it is double-clicked away;
+// the program buttons and the File menu wait with it.
+void FrmCplCal::ShowMessage(QString text) {
+    if (running_) ShowRunningPlace();  // the place the message speaks of
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     messageBox_->setText(text);
     messageBase_->show();
     messageBase_->raise();
@@ -120,24 +129,10 @@ void FrmCplCal::Errmessage(const std::string& message) {
     if (!isVisible()) show();
     raise();
     activateWindow();
-    if (location) MarkErrorLocation(*location);
     HoldInputForMessage(true);
     emit messageShown(text);
     Waite();
     HoldInputForMessage(false);
-}
-
-// "Main: 3行目: b = 1 / a": the page, the statement number and its text.
-QString FrmCplCal::LocationText(const ErrorLocation& location) {
-    QString text = location.page + QStringLiteral(": ") + QString::number(location.statement) +
-                   QStringLiteral("行目");
-    const ClsCode* page = interpreter_.FindPage(location.page.toStdString());
-    const int line = location.statement - 1;
-    if (page != nullptr && line >= 0 && line < page->LineNum()) {
-        text += QStringLiteral(": ") +
-                QString::fromStdString(page->Line(static_cast<std::int16_t>(line)).Text);
-    }
-    return text;
 }
 
 // While a message waits, keys go to the message panel, not into the

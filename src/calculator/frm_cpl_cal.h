@@ -15,7 +15,6 @@
 
 #include "calculator/active_text_box.h"
 #include "calculator/calculator_dialogs.h"
-#include "calculator/error_location.h"
 #include "calculator/file_name_chooser.h"
 #include "calculator/transform_link.h"
 #include "interp/interpreter.h"
@@ -134,7 +133,7 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     bool StopRequested() const override { return stopRequested_; }
     void ClearStopRequest() override { stopRequested_ = false; }
     void ShowTransformProgress(bool on) override { SetProgressView(on); }
-    void ShowFaultLocation(const std::string& pageName, std::int16_t statement) override;
+    void ShowProgramError(const ProgramError& error) override;
     void ProcessEvents() override;
 
   signals:
@@ -168,10 +167,9 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     void BeginRun();
     void EndRun();
     void ShowExecutionList(bool list);
-    void MarkErrorLocation(const ErrorLocation& location);
+    void ShowMessage(QString text);
+    void MarkErrorLine(const StatementPlace& place);
     void ShowRunningPlace();
-    int EditorLineOf(const ClsCode& page, int statement);
-    QString LocationText(const ErrorLocation& location);
     void HoldInputForMessage(bool hold);
     void UpdateEnabled();
 
@@ -253,9 +251,7 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     std::int16_t runningLine_ = -1;
     std::int16_t listEntry_ = -1;  // the execution list entry to select, -1 for none
     static constexpr qint64 kEventIntervalMs = 20;
-    QElapsedTimer eventClock_;         // since window events last ran
-    std::vector<int> statementLines_;  // editor line of each execution list entry
-    std::optional<ErrorLocation> faultLocation_;
+    QElapsedTimer eventClock_;              // since window events last ran
     QPointer<QWidget> focusBeforeMessage_;  // gets the focus back after a message
     QString programFileName_;
     TransformPartner* tesmorPartner_ = nullptr;

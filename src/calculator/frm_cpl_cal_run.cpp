@@ -10,7 +10,6 @@
 
 #include "calculator/code_editor.h"
 #include "calculator/elided_label.h"
-#include "calculator/error_location.h"
 #include "calculator/frm_cpl_cal.h"
 #include "calculator/memory_panel.h"
 #include "calculator/menu_words.h"
@@ -120,38 +119,16 @@ void FrmCplCal::UpdateEnabled() {
 
 // The execution list belongs to the text it was made from.
 void FrmCplCal::ProgramText_Change() {
-    if (running_) {
-        statementLines_.clear();
-    } else {
-        ClearProgramList();
-    }
+    if (!running_) ClearProgramList();
     interpreter_.SetProgramText(EditorTextToProgram(programText_->toPlainText()).toStdString());
 }
 
 // Marks the editor line of the statement an error names. The first error of
 // a run is the one that failed; those after it are the callers that failed
 // with it.
-void FrmCplCal::MarkErrorLocation(const ErrorLocation& location) {
-    if (programText_->errorLine() >= 0) return;
-    const ClsCode* page = interpreter_.FindPage(location.page.toStdString());
-    if (page == nullptr) return;
-    const int line = EditorLineOf(*page, location.statement - 1);
-    if (line >= 0) programText_->MarkErrorLine(line);
-}
-
-// The editor line (0-based) of a page's statement, or -1. The statements of
-// the execution list are matched to the editor's lines once per listing.
-int FrmCplCal::EditorLineOf(const ClsCode& page, int statement) {
-    if (statement < 0 || statement >= page.LineNum()) return -1;
-    if (statementLines_.empty() && programList_->count() > 0) {
-        QStringList statements;
-        for (int k = 0; k < programList_->count(); ++k)
-            statements << programList_->item(k)->text();
-        statementLines_ = MapStatementsToLines(programText_->toPlainText().split('\n'), statements);
-    }
-    const int entry = page.Line(static_cast<std::int16_t>(statement)).LnNo;
-    if (entry < 0 || entry >= static_cast<int>(statementLines_.size())) return -1;
-    return statementLines_[entry];
+void FrmCplCal::MarkErrorLine(const StatementPlace& place) {
+    if (programText_->errorLine() >= 0 || place.sourceLine < 0) return;
+    programText_->MarkErrorLine(place.sourceLine);
 }
 
 // The running page, line and list entry are noted at every statement and
@@ -173,22 +150,18 @@ void FrmCplCal::ShowRunningPlace() {
     const bool known = runningPage_ >= 0 && runningPage_ < interpreter_.PageCount();
     pgLb_->setText(known ? QString::fromStdString(interpreter_.Page(runningPage_).PageName())
                          : QString::number(runningPage_));
-    const int line = known ? EditorLineOf(interpreter_.Page(runningPage_), runningLine_) : -1;
+    const ClsCode* page = known ? &interpreter_.Page(runningPage_) : nullptr;
+    const bool lineKnown = page != nullptr && runningLine_ >= 0 && runningLine_ < page->LineNum();
+    const int line = lineKnown ? interpreter_.SourceLineOf(page->Line(runningLine_).LnNo) : -1;
     pcLb_->setText(line >= 0 ? QString::number(line + 1) : QString());
 }
 
 void FrmCplCal::ClearProgramList() {
     programList_->clear();
-    statementLines_.clear();
 }
 
 void FrmCplCal::AddProgramListEntry(const std::string& statement) {
     programList_->addItem(QString::fromStdString(statement));
-    statementLines_.clear();
-}
-
-void FrmCplCal::ShowFaultLocation(const std::string& pageName, std::int16_t statement) {
-    faultLocation_ = ErrorLocation{QString::fromStdString(pageName), statement};
 }
 
 bool FrmCplCal::ProgramListVisible() const {

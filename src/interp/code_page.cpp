@@ -83,14 +83,15 @@ bool ClsCode::ACalcu(std::string_view text, double& re, double& im) {
     Complex value;
     try {
         if (!evaluator.EvalSum(text, value)) {
-            errorText_ = evaluator.failure().empty() ? "式が正しくありません" : evaluator.failure();
+            SetErrorText(evaluator.failure().empty() ? "式が正しくありません"
+                                                     : evaluator.failure());
             return false;
         }
     } catch (const RuntimeFault& fault) {
-        errorText_ = fault.description();
+        SetErrorText(fault.description());
         return false;
     } catch (const StopRequest&) {
-        errorText_ = kStopped;
+        SetErrorText(std::string(kStopped));
         return false;
     }
     re = value.Re;
@@ -105,7 +106,7 @@ void ClsCode::ACalcuWithMemoryStore(std::string_view expression, std::string_vie
     ok = false;
     NameWithSubscripts parsed;
     if (Trim(target).empty() || !SplitNameAndSubscripts(target, parsed)) {
-        errorText_ = "代入先が不正";
+        SetErrorText("代入先が不正");
         return;
     }
     if (ReportReserved(parsed.name)) return;
@@ -113,7 +114,7 @@ void ClsCode::ACalcuWithMemoryStore(std::string_view expression, std::string_vie
         std::int16_t index = OwnMemoryIndex(parsed.name);
         if (index < 0) {
             if (!parsed.subscripts.empty()) {
-                errorText_ = "代入先が不正";
+                SetErrorText("代入先が不正");
                 return;
             }
             index = AppendVariable(parsed.name, 0, 0, 0);
@@ -128,10 +129,10 @@ void ClsCode::ACalcuWithMemoryStore(std::string_view expression, std::string_vie
         re = assigned.Re;
         im = assigned.Im;
     } catch (const RuntimeFault& fault) {
-        errorText_ = fault.description();
+        SetErrorText(fault.description());
         ok = false;
     } catch (const StopRequest&) {
-        errorText_ = kStopped;
+        SetErrorText(std::string(kStopped));
         ok = false;
     }
 }
@@ -142,11 +143,11 @@ bool ClsCode::StoreOwnValue(std::string_view name, const Complex& value) {
         std::int16_t index = OwnMemoryIndex(name);
         if (index < 0) index = AppendVariable(name, 0, 0, 0);
         arrayResult_.reset();
-        errorText_.clear();
+        ClearErrorText();
         Memory(index).Values[0] = value;
         return true;
     } catch (const RuntimeFault& fault) {
-        errorText_ = fault.description();
+        SetErrorText(fault.description());
         return false;
     }
 }
@@ -163,7 +164,7 @@ bool ClsCode::AImidateStatement(std::string_view text, double& re, double& im) {
         try {
             return AStateMentDimension(items);
         } catch (const StopRequest&) {
-            errorText_ = kStopped;
+            SetErrorText(std::string(kStopped));
             return false;
         }
     }

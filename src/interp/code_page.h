@@ -12,6 +12,7 @@
 
 #include "expr/name_scope.h"
 #include "interp/page_records.h"
+#include "interp/program_error.h"
 #include "values/matrix.h"
 
 namespace lapdesk {
@@ -103,7 +104,7 @@ class ClsCode : public NameScope {
     // The reason of the last failure on this page; cleared before work whose
     // own failure is to be told apart from an earlier one.
     const std::string& ErrorText() const { return errorText_; }
-    void ClearErrorText() { errorText_.clear(); }
+    void ClearErrorText() { SetErrorText({}); }
 
     // NameScope: how expressions on this page read names and call functions.
     bool ReadVariable(Evaluator& evaluator, std::string_view name,
@@ -165,13 +166,18 @@ class ClsCode : public NameScope {
     bool Condition(std::string_view text, bool& truth);
     bool Assign(const StatementCode& code, Complex& assigned);
     void ShowProgress(std::int16_t line);
-    void ReportRunError(std::int16_t line, std::string_view reason);
+    // Tells the view of the failed statement, as its statement or as the
+    // call argument that failed in it.
+    void ReportRunError(std::int16_t line);
+    StatementPlace PlaceOf(std::int16_t line) const;
+    void SetErrorText(std::string reason);
 
     // Functions and calls (code_page_calls.cpp).
     bool AnalyseCall(std::string_view text, std::int16_t& entry);
     bool BindArgument(std::string_view text, CallArgument& argument);
     bool RunCall(Evaluator& evaluator, CallEntry& entry, Complex& result);
-    bool PrepareArgument(Evaluator& evaluator, CallArgument& argument, std::string& reason);
+    bool PrepareArgument(Evaluator& evaluator, CallArgument& argument, ProgramErrorKind& failure);
+    void FailArgument(ProgramErrorKind kind, const std::string& argument);
 
     Interpreter& session_;
     std::string pageName_;
@@ -196,6 +202,10 @@ class ClsCode : public NameScope {
     std::int16_t innermostDo_ = -1;
     std::int16_t errorLine_ = 0;
     std::string errorText_;
+    // A call's argument that failed, and how; errorText_ then says so in
+    // words. Run when the failure is not an argument's.
+    ProgramErrorKind errorKind_ = ProgramErrorKind::Run;
+    std::string errorArgument_;
     Complex valueArea_;
     std::optional<ComplexArray> arrayResult_;  // of the last matrix function
 

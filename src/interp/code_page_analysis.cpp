@@ -41,8 +41,14 @@ bool ConditionWord(std::string_view rest, std::string& word, std::string& condit
 
 }  // namespace
 
-bool ClsCode::Fail(std::string reason) {
+void ClsCode::SetErrorText(std::string reason) {
     errorText_ = std::move(reason);
+    errorKind_ = ProgramErrorKind::Run;
+    errorArgument_.clear();
+}
+
+bool ClsCode::Fail(std::string reason) {
+    SetErrorText(std::move(reason));
     return false;
 }
 
@@ -103,15 +109,12 @@ bool ClsCode::APc01CodeAnalize() {
         return false;  // stopped while a Dim subscript ran: no message
     }
     if (ok) return true;
-    std::string message = pageName_ + ": " + std::to_string(errorLine_ + 1) + "行目解析エラー";
-    message += kCrLf;
-    if (errorLine_ < LineNum()) message += lines_[static_cast<std::size_t>(errorLine_)].Text;
-    session_.view().Errmessage(message + ":" + errorText_);
+    session_.view().ShowProgramError({ProgramErrorKind::Analysis, PlaceOf(errorLine_), errorText_});
     return false;
 }
 
 bool ClsCode::AnalyseLine(std::int16_t& i) {
-    errorText_.clear();
+    ClearErrorText();
     errorLine_ = i;
     // Blocks nest by recursion here: a program nested too deep fails cleanly.
     NestingGuard guard;

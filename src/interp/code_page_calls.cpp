@@ -75,14 +75,14 @@ bool ClsCode::AnalyseCall(std::string_view text, std::int16_t& entry) {
     std::string_view name;
     std::vector<std::string_view> args;
     if (!ParseCall(text, name, args)) return false;
-    errorText_ = "Call文 " + std::string(name) + " が無い";
+    SetErrorText("Call文 " + std::string(name) + " が無い");
     ClsCode* target = session_.FindPage(name);
     if (target == nullptr) return false;
     CallEntry call{target, ToInt16(static_cast<long long>(args.size())), {}};
     for (std::string_view arg : args) {
         CallArgument argument;
         if (!BindArgument(arg, argument)) {
-            errorText_ = "Call文引数 " + std::string(Trim(arg)) + " が無い";
+            SetErrorText("Call文引数 " + std::string(Trim(arg)) + " が無い");
             return false;
         }
         call.Arguments.push_back(std::move(argument));
@@ -126,10 +126,11 @@ bool ClsCode::BindArgument(std::string_view text, CallArgument& argument) {
 // Makes one argument ready for the callee: evaluates expressions and the
 // subscripts of an element, and follows a parameter passed on to what it
 // refers to.
-bool ClsCode::PrepareArgument(Evaluator& evaluator, CallArgument& argument, std::string& reason) {
+bool ClsCode::PrepareArgument(Evaluator& evaluator, CallArgument& argument,
+                              ProgramErrorKind& failure) {
     if (argument.Kind == "S") {
         if (evaluator.EvalArgument(argument.Text, argument.Value)) return true;
-        reason = "行目：引数式 " + argument.Text + " 実行エラー";
+        failure = ProgramErrorKind::ArgumentExpression;
         return false;
     }
     if (argument.Kind == "I") return true;
@@ -147,7 +148,7 @@ bool ClsCode::PrepareArgument(Evaluator& evaluator, CallArgument& argument, std:
     }
     if (argument.Page == nullptr || argument.Index < 0 ||
         argument.Index >= argument.Page->NumofMemory()) {
-        reason = "行目：引数式 " + argument.Text + " 実行エラー";
+        failure = ProgramErrorKind::ArgumentExpression;
         return false;
     }
     // Subscripts first: they may run a function page whose analysis adds
@@ -157,7 +158,7 @@ bool ClsCode::PrepareArgument(Evaluator& evaluator, CallArgument& argument, std:
     const std::string subscripts[2] = {argument.Subscript1, argument.Subscript2};
     for (int k = 0; element && k < argument.SubscriptCount && k < 2; ++k) {
         if (!EvalSubscript(evaluator, subscripts[k], index[k])) {
-            reason = "行目：引数添字式 " + argument.Text + " 実行エラー";
+            failure = ProgramErrorKind::ArgumentSubscript;
             return false;
         }
     }
@@ -168,24 +169,30 @@ bool ClsCode::PrepareArgument(Evaluator& evaluator, CallArgument& argument, std:
     if (!element) return true;
     const std::int32_t flat = (rec.NI + 1) * index[1] + index[0];
     if (flat < 0 || flat > rec.Ln) {
-        reason = "行目：引数添字値 " + argument.Text + " 範囲外";
+        failure = ProgramErrorKind::ArgumentRange;
         return false;
     }
     argument.Flat = flat;
     return true;
 }
 
+void ClsCode::FailArgument(ProgramErrorKind kind, const std::string& argument) {
+    SetErrorText(ArgumentFailureText(kind, argument));
+    errorKind_ = kind;
+    errorArgument_ = argument;
+}
+
 bool ClsCode::RunCall(Evaluator& evaluator, CallEntry& entry, Complex& result) {
     if (entry.Target->NumofArg() != entry.ArgumentCount) {
-        errorText_ = "引数の数が違います";
+        SetErrorText("引数の数が違います");
         return false;
     }
     std::vector<CallArgument> prepared = entry.Arguments;
     for (CallArgument& argument : prepared) {
-        std::string reason;
-        if (PrepareArgument(evaluator, argument, reason)) continue;
+        ProgramErrorKind failure = ProgramErrorKind::ArgumentExpression;
+        if (PrepareArgument(evaluator, argument, failure)) continue;
         // A nested call whose argument failed first named the real culprit.
-        if (errorText_.empty()) errorText_ = std::move(reason);
+        if (errorText_.empty()) FailArgument(failure, argument.Text);
         return false;
     }
     for (std::size_t k = 0; k < prepared.size(); ++k) {

@@ -190,7 +190,7 @@ std::int16_t ClsCode::OwnMemoryIndex(std::string_view name) const {
 bool ClsCode::ReportReserved(std::string_view name) {
     if (!IsReservedWord(name)) return false;
     session_.view().ShowHint(std::string(name) + " is Reserved Word");
-    errorText_ = "代入先が不正";
+    SetErrorText("代入先が不正");
     return true;
 }
 
@@ -289,7 +289,7 @@ bool ClsCode::AStateMentDimension(std::span<const std::string_view> items) {
             if (!DeclareItem(item)) return false;
         }
     } catch (const RuntimeFault& fault) {
-        errorText_ = fault.description();
+        SetErrorText(fault.description());
         return false;
     }
     return true;

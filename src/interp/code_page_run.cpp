@@ -94,8 +94,8 @@ bool ClsCode::APc02CodeExecute(double& re, double& im) {
         fault = "メモリが不足しています。";
     }
     if (!fault.empty()) {
-        if (currentLine_ >= 0) session_.view().ShowFaultLocation(pageName_, Add16(currentLine_, 1));
-        session_.view().Errmessage("実行時異常終了" + std::string(kCrLf) + fault);
+        const StatementPlace place = currentLine_ >= 0 ? PlaceOf(currentLine_) : StatementPlace{};
+        session_.view().ShowProgramError({ProgramErrorKind::AbnormalEnd, place, fault});
         return false;
     }
     re = valueArea_.Re;
@@ -128,7 +128,7 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
     const std::int16_t kind = stored.Kind;
     const std::int16_t link = stored.Link;
     const auto index = static_cast<std::size_t>(stored.CodeIndex);
-    errorText_.clear();
+    ClearErrorText();
     bool ok = true;
     Evaluator evaluator(*this);
     switch (kind) {
@@ -200,17 +200,20 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
             break;
     }
     if (ok) return Flow::Normal;
-    if (errorText_.empty()) errorText_ = evaluator.failure();
-    ReportRunError(line, errorText_);
+    if (errorText_.empty()) SetErrorText(evaluator.failure());
+    ReportRunError(line);
     return Flow::Fail;
 }
 
-void ClsCode::ReportRunError(std::int16_t line, std::string_view reason) {
+void ClsCode::ReportRunError(std::int16_t line) {
     if (session_.view().StopRequested()) return;  // a stop is not an error
-    const std::string number = pageName_ + ": " + std::to_string(line + 1);
-    std::string message =
-        reason.starts_with("行目") ? number + std::string(reason) : number + "行目実行エラー";
-    session_.view().Errmessage(message + std::string(kCrLf) + Line(line).Text);
+    session_.view().ShowProgramError({errorKind_, PlaceOf(line), errorArgument_});
+}
+
+StatementPlace ClsCode::PlaceOf(std::int16_t line) const {
+    if (line < 0 || line >= LineNum()) return {pageName_, line, -1, {}};
+    const CodeLine& stored = Line(line);
+    return {pageName_, line, session_.SourceLineOf(stored.LnNo), stored.Text};
 }
 
 // For: the counter lives in the block, so assignments to the loop variable
@@ -231,7 +234,7 @@ bool ClsCode::RunFor(std::int16_t& line, bool isNext) {
                      stepText = block.StepText;
     if (!evaluator.EvalSum(startText, start) || !evaluator.EvalSum(endText, end) ||
         !evaluator.EvalSum(stepText, step)) {
-        if (errorText_.empty()) errorText_ = evaluator.failure();
+        if (errorText_.empty()) SetErrorText(evaluator.failure());
         return false;
     }
     block.Counter = start.Re;
@@ -285,14 +288,14 @@ ClsCode::Flow ClsCode::RunBranch(std::int16_t& line, const std::vector<std::int1
 bool ClsCode::Condition(std::string_view text, bool& truth) {
     Evaluator evaluator(*this);
     if (evaluator.EvalCondition(text, truth)) return true;
-    if (errorText_.empty()) errorText_ = evaluator.failure();
+    if (errorText_.empty()) SetErrorText(evaluator.failure());
     return false;
 }
 
 bool ClsCode::Assign(const StatementCode& code, Complex& assigned) {
     Evaluator evaluator(*this);
     arrayResult_.reset();
-    errorText_.clear();
+    ClearErrorText();
     std::string_view expression = code.Expression;
     const bool evaluated = code.ExpressionScan
                                ? evaluator.EvalSum(code.ExpressionScan->scan, assigned)
@@ -300,7 +303,7 @@ bool ClsCode::Assign(const StatementCode& code, Complex& assigned) {
     if (!evaluated) {
         // A call inside the expression may have left why its argument
         // failed; that reason is kept, as for a Call statement.
-        if (errorText_.empty()) errorText_ = evaluator.failure();
+        if (errorText_.empty()) SetErrorText(evaluator.failure());
         return false;
     }
     if (code.TargetKind == "R") {
@@ -350,7 +353,7 @@ bool ClsCode::Assign(const StatementCode& code, Complex& assigned) {
                                                      static_cast<std::size_t>(code.SubscriptCount));
         rec = Element(evaluator, target, used, flat);
         if (rec == nullptr) {
-            if (errorText_.empty()) errorText_ = evaluator.failure();
+            if (errorText_.empty()) SetErrorText(evaluator.failure());
             return false;
         }
     }

@@ -30,12 +30,18 @@ std::string_view BracketFault(std::string_view line) {
 constexpr std::uint32_t kAnalysingColour = 0xFFFFC0;
 constexpr std::uint32_t kReadyColour = 0x80FFFF;
 
+// One statement of the program text and the 0-based line it stands on.
+struct CutStatement {
+    std::string text;
+    std::int32_t line = 0;
+};
+
 // Statements of the program text: lines at the line break, the comment cut
 // at the line's last apostrophe, statements at ":". Blank statements are
 // left out.
-std::vector<std::string> CutStatements(std::string_view text) {
-    std::vector<std::string> statements;
-    while (!text.empty()) {
+std::vector<CutStatement> CutStatements(std::string_view text) {
+    std::vector<CutStatement> statements;
+    for (std::int32_t lineNumber = 0; !text.empty(); ++lineNumber) {
         const std::size_t end = text.find('\n');
         std::string_view line = text.substr(0, end);
         text = end == std::string_view::npos ? std::string_view{} : text.substr(end + 1);
@@ -46,7 +52,9 @@ std::vector<std::string> CutStatements(std::string_view text) {
         for (;;) {
             const std::size_t colon = line.find(':', start);
             const std::string_view piece = Trim(line.substr(start, colon - start));
-            if (!piece.empty() && piece.front() != '\'') statements.emplace_back(piece);
+            if (!piece.empty() && piece.front() != '\'') {
+                statements.push_back({std::string(piece), lineNumber});
+            }
             if (colon == std::string_view::npos) break;
             start = colon + 1;
         }
@@ -96,7 +104,7 @@ ClsCode* Interpreter::FindPage(std::string_view name) {
 }
 
 void Interpreter::SetProgramText(std::string text) {
-    if (text != programText_) programAnalysed_ = false;
+    if (text != programText_) programAnalysed_ = cutIsCurrent_ = false;
     programText_ = std::move(text);
 }
 
@@ -146,9 +154,15 @@ bool Interpreter::RunProgramOnce(double& re, double& im, bool eraseGlobals, bool
 bool Interpreter::CutProgram() {
     view_->ClearProgramList();
     pages_.clear();
-    const std::vector<std::string> statements = CutStatements(programText_);
-    for (const std::string& statement : statements)
-        view_->AddProgramListEntry(statement);
+    const std::vector<CutStatement> cut = CutStatements(programText_);
+    std::vector<std::string> statements;
+    sourceLines_.clear();
+    for (const CutStatement& statement : cut) {
+        view_->AddProgramListEntry(statement.text);
+        statements.push_back(statement.text);
+        sourceLines_.push_back(statement.line);
+    }
+    cutIsCurrent_ = true;
     if (statements.empty()) {
         // Nothing to analyse; said in words, beside the "Code Error0" status.
         view_->Errmessage("プログラムが空です（実行する文がありません）");
@@ -195,6 +209,13 @@ bool Interpreter::BuildPages(const std::vector<std::string>& statements) {
         ++i;
     }
     return true;
+}
+
+std::int32_t Interpreter::SourceLineOf(std::int16_t entry) const {
+    if (!cutIsCurrent_ || entry < 0 || static_cast<std::size_t>(entry) >= sourceLines_.size()) {
+        return -1;
+    }
+    return sourceLines_[static_cast<std::size_t>(entry)];
 }
 
 void Interpreter::EraseGlobals() {

@@ -54,6 +54,9 @@ class Interpreter {
     // Analyses (where needed) and runs "Main"; the status goes to kai.
     bool RunProgram(double& re, double& im, bool eraseGlobals, bool run);
     bool CutProgram();
+    // The 0-based line of the program text that entry `entry` of the
+    // execution list was cut from; -1 when the text has changed since.
+    std::int32_t SourceLineOf(std::int16_t entry) const;
     // Erases the global memory and every page's memory (not while busy).
     void EraseGlobals();
 
@@ -89,6 +92,8 @@ class Interpreter {
     std::vector<std::unique_ptr<ClsCode>> pages_;
     std::string programText_;
     bool programAnalysed_ = false;
+    std::vector<std::int32_t> sourceLines_;  // of each execution list entry
+    bool cutIsCurrent_ = false;              // the text is the one last cut
     int callDepth_ = 0;
     bool busy_ = false;
     unsigned pollCount_ = 0;

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <string>
 
+#include "interp/program_error.h"
 #include "values/complex.h"
 #include "values/number_text.h"
 
@@ -52,9 +53,9 @@ class InterpreterView {
     // Switches the window to the view it shows while the transform runs the
     // program point by point, and back.
     virtual void ShowTransformProgress(bool /*on*/) {}
-    // Where a run ended abnormally: the page and its 1-based statement,
-    // told just before the "実行時異常終了" message.
-    virtual void ShowFaultLocation(const std::string& /*pageName*/, std::int16_t /*statement*/) {}
+    // An error of a program statement, or the fault that ended a run, with
+    // its place; shown as its message unless the view does more with it.
+    virtual void ShowProgramError(const ProgramError& error) { Errmessage(MessageText(error)); }
 };
 
 }  // namespace lapdesk

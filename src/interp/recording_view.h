@@ -12,6 +12,7 @@ namespace lapdesk {
 class RecordingView : public InterpreterView {
   public:
     std::vector<std::string> messages;
+    std::vector<ProgramError> errors;  // also among the messages
     std::vector<std::string> programList;
     std::string kai;
     std::string hint;
@@ -19,6 +20,10 @@ class RecordingView : public InterpreterView {
     bool stopRequested = false;
 
     void Errmessage(const std::string& message) override { messages.push_back(message); }
+    void ShowProgramError(const ProgramError& error) override {
+        errors.push_back(error);
+        InterpreterView::ShowProgramError(error);
+    }
     void ShowPageIndex(std::int16_t) override {}
     void ShowLineIndex(std::int16_t) override {}
     void ClearProgramList() override { programList.clear(); }

@@ -1,8 +1,7 @@
 // The calculator's rules that need no window: menu words, key layers,
-// history and zoom, error locations, the meter's ticks, the highlighter.
+// history and zoom, the meter's ticks, the highlighter.
 #include <gtest/gtest.h>
 
-#include "calculator/error_location.h"
 #include "calculator/immediate_rules.h"
 #include "calculator/keyboard_layers.h"
 #include "calculator/menu_words.h"
@@ -66,27 +65,6 @@ TEST(ImmediateRules, ZoomStopsAtNine) {
     EXPECT_EQ(ZoomedPointSize(10, true), 9);
     EXPECT_EQ(ZoomedPointSize(9, true), 9);
     EXPECT_EQ(ZoomedPointSize(7, true), 7);
-}
-
-TEST(ErrorLocation, ReadsPageAndStatement) {
-    const auto analysis =
-        ParseErrorLocation(QStringLiteral("Main: 12行目解析エラー\r\nFor i=1:Nextが無い"));
-    ASSERT_TRUE(analysis.has_value());
-    EXPECT_EQ(analysis->page, QStringLiteral("Main"));
-    EXPECT_EQ(analysis->statement, 12);
-    const auto run = ParseErrorLocation(QStringLiteral("F: 1行目実行エラー\nz = 1/x"));
-    ASSERT_TRUE(run.has_value());
-    EXPECT_EQ(run->page, QStringLiteral("F"));
-    EXPECT_EQ(run->statement, 1);
-    EXPECT_FALSE(ParseErrorLocation(QStringLiteral("実行時異常終了\r\nMain: 1行目実行エラー")));
-    EXPECT_FALSE(ParseErrorLocation(QStringLiteral("コード解析Pass1 エラー")));
-}
-
-TEST(ErrorLocation, StatementsMapToTheirLines) {
-    const QStringList lines{"' note", "a = 1 : b = 2", "", "a = 1", "  Return a ' a = 1"};
-    const QStringList statements{"a = 1", "b = 2", "a = 1", "Return a", "missing"};
-    EXPECT_EQ(MapStatementsToLines(lines, statements), (std::vector<int>{1, 1, 3, 4, -1}));
-    EXPECT_EQ(MapStatementsToLines(lines, {""}), std::vector<int>{-1});
 }
 
 TEST(ProgressMeter, TicksAcrossTheScale) {

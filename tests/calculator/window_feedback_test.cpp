@@ -56,6 +56,10 @@ INSTANTIATE_TEST_SUITE_P(
         FailedRun{"RunErrorInAFunction",
                   "Return F(0)\nEnd\nFunction F(x)\n  y = 1 : z = w + 1\n  Return z\nEnd Function",
                   "F: 3行目実行エラー\nz = w + 1", "", 3},
+        FailedRun{
+            "ArgumentOfACall",
+            "a = 1\n' 呼び出し\nb = 2 : c = F(q + w)\nEnd\nFunction F(x)\n  Return x\nEnd Function",
+            "Main: 3行目：引数式 q + w 実行エラー\nc = F(q + w)", "", 2},
         FailedRun{"DivisionInMain", "' 割り算\na = 0\n\nb = 1 / a\nEnd", "実行時異常終了\n",
                   "\nMain: 2行目: b = 1 / a", 3},
         FailedRun{"OverflowInAFunction",

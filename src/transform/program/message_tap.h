@@ -35,11 +35,14 @@ class MessageTap : public InterpreterView {
         if (first_.empty()) first_ = message;
         shown_.Errmessage(message);
     }
-    void ShowFaultLocation(const std::string& pageName, std::int16_t statement) override {
-        if (first_.empty() && faultLocation_.empty()) {
-            faultLocation_ = pageName + ": " + std::to_string(statement) + "行目";
+    void ShowProgramError(const ProgramError& error) override {
+        if (first_.empty()) {
+            first_ = MessageText(error);
+            if (error.kind == ProgramErrorKind::AbnormalEnd && error.place.Known()) {
+                faultLocation_ = PlaceName(error.place);
+            }
         }
-        shown_.ShowFaultLocation(pageName, statement);
+        shown_.ShowProgramError(error);
     }
     void ShowPageIndex(std::int16_t pageIndex) override { shown_.ShowPageIndex(pageIndex); }
     void ShowLineIndex(std::int16_t lineIndex) override { shown_.ShowLineIndex(lineIndex); }
