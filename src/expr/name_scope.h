@@ -26,7 +26,7 @@ class NameScope {
         void* owner = nullptr;
         std::int16_t index = -1;
         std::int16_t slot = -1;
-        std::string_view kind;
+        std::uint8_t kind = 0;  // what the scope found there, in its own terms
     };
 
     // The value of a variable (no subscripts) or an array element (one or

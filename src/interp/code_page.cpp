@@ -119,8 +119,12 @@ void ClsCode::ACalcuWithMemoryStore(std::string_view expression, std::string_vie
             }
             index = AppendVariable(parsed.name, 0, 0, 0);
         }
-        StatementCode code{"M", index, static_cast<std::int16_t>(parsed.subscripts.size()),
-                           "",  "",    std::string(Trim(expression)),
+        StatementCode code{TargetKind::Memory,
+                           index,
+                           static_cast<std::int16_t>(parsed.subscripts.size()),
+                           "",
+                           "",
+                           std::string(Trim(expression)),
                            {}};
         if (!parsed.subscripts.empty()) code.Subscript1 = parsed.subscripts[0];
         if (parsed.subscripts.size() > 1) code.Subscript2 = parsed.subscripts[1];

@@ -66,14 +66,13 @@ class ClsCode : public NameScope {
     bool AzVariableValueDirectSet(std::int16_t k, std::int16_t i, std::int16_t j,
                                   std::int32_t& flat, double re, double im);
 
-    // Looks a name up: own memory ("M"), parameters ("I", "E" or "A"),
-    // globals ("G"); the immediate page falls back on "Main" ("Main").
-    // Empty kind when unknown.
+    // Looks a name up: own memory, parameters, globals; the immediate page
+    // falls back on "Main".
     struct Found {
-        std::string_view kind;  // one of the literals above
+        NameKind kind = NameKind::None;
         ClsCode* page = nullptr;
         std::int16_t index = -1;  // memory index in `page`
-        std::int16_t slot = -1;   // parameter slot for "I", "E" and "A"
+        std::int16_t slot = -1;   // parameter slot of a parameter
         std::int16_t typ = 0;
         std::int16_t ni = 0;
         std::int16_t nj = 0;

@@ -194,21 +194,22 @@ bool ClsCode::AnalyseAssignment(std::string_view text, bool& isAssignment) {
     isAssignment = equals != std::string_view::npos;
     if (!isAssignment) return true;
     const std::string_view target = Trim(text.substr(0, equals));
-    StatementCode code{"R", 0, 0, "", "", std::string(Trim(text.substr(equals + 1))), {}};
+    StatementCode code{
+        TargetKind::Result, 0, 0, "", "", std::string(Trim(text.substr(equals + 1))), {}};
     if (!SameName(target, pageName_, session_.caseSensitive())) {
         NameWithSubscripts parsed;
         if (!SplitNameAndSubscripts(target, parsed) || ReportReserved(parsed.name)) {
             return Fail("代入先が不正");
         }
         const Found found = AzIsVariableSearch(parsed.name);
-        if (found.kind == "M" || found.kind == "G") {
-            code.TargetKind = found.kind;
+        if (found.kind == NameKind::Memory || found.kind == NameKind::Global) {
+            code.Target = found.kind == NameKind::Memory ? TargetKind::Memory : TargetKind::Global;
             code.TargetIndex = found.index;
-        } else if (found.kind == "I" || found.kind == "E" || found.kind == "A") {
-            code.TargetKind = "A";
+        } else if (IsParameter(found.kind)) {
+            code.Target = TargetKind::Parameter;
             code.TargetIndex = found.slot;
-        } else if (found.kind.empty() && parsed.subscripts.empty() && pageIndex_ != -1) {
-            code.TargetKind = "M";
+        } else if (found.kind == NameKind::None && parsed.subscripts.empty() && pageIndex_ != -1) {
+            code.Target = TargetKind::Memory;
             code.TargetIndex = AppendVariable(parsed.name, 0, 0, 0);
         } else {
             return Fail("代入先が不正");

@@ -53,7 +53,7 @@ bool ClsCode::APc03DefineFunction(std::string_view header) {
         }
         CallArgument slot;
         slot.Name = std::string(parameter);
-        slot.Kind = "I";
+        slot.Kind = ArgumentKind::Literal;
         slots.push_back(std::move(slot));
     }
     SetPageName(std::string(name));
@@ -92,26 +92,26 @@ bool ClsCode::AnalyseCall(std::string_view text, std::int16_t& entry) {
     return true;
 }
 
-// A named variable or element is passed by reference ("M", "A", "G"), a
-// number literal as "I", anything else as an expression "S".
+// A named variable or element is passed by reference, a number literal and
+// anything else as a value.
 bool ClsCode::BindArgument(std::string_view text, CallArgument& argument) {
     text = Trim(text);
     if (text.empty()) return false;
     argument.Text = argument.Name = std::string(text);
     std::string literal(text);
     if (TextToComplex(literal, argument.Value)) {
-        argument.Kind = "I";
+        argument.Kind = ArgumentKind::Literal;
         return true;
     }
     NameWithSubscripts parsed;
     if (SplitNameAndSubscripts(text, parsed) && !ConstantValue(parsed.name)) {
         const Found found = AzIsVariableSearch(parsed.name);
-        if (!found.kind.empty()) {
-            argument.Kind = (found.kind == "I" || found.kind == "E" || found.kind == "A") ? "A"
-                            : found.kind == "G"                                           ? "G"
-                                                                                          : "M";
+        if (found.kind != NameKind::None) {
+            argument.Kind = IsParameter(found.kind)          ? ArgumentKind::Parameter
+                            : found.kind == NameKind::Global ? ArgumentKind::Global
+                                                             : ArgumentKind::Memory;
             argument.Page = found.page;
-            argument.Index = argument.Kind == "A" ? found.slot : found.index;
+            argument.Index = IsParameter(found.kind) ? found.slot : found.index;
             argument.SubscriptCount = ToInt16(static_cast<long long>(parsed.subscripts.size()));
             if (!parsed.subscripts.empty()) argument.Subscript1 = parsed.subscripts[0];
             if (parsed.subscripts.size() > 1) argument.Subscript2 = parsed.subscripts[1];
@@ -119,7 +119,7 @@ bool ClsCode::BindArgument(std::string_view text, CallArgument& argument) {
         }
         if (parsed.subscripts.empty()) return false;  // an unknown plain name
     }
-    argument.Kind = "S";
+    argument.Kind = ArgumentKind::Expression;
     return true;
 }
 
@@ -128,14 +128,14 @@ bool ClsCode::BindArgument(std::string_view text, CallArgument& argument) {
 // refers to.
 bool ClsCode::PrepareArgument(Evaluator& evaluator, CallArgument& argument,
                               ProgramErrorKind& failure) {
-    if (argument.Kind == "S") {
+    if (argument.Kind == ArgumentKind::Expression) {
         if (evaluator.EvalArgument(argument.Text, argument.Value)) return true;
         failure = ProgramErrorKind::ArgumentExpression;
         return false;
     }
-    if (argument.Kind == "I") return true;
+    if (argument.Kind == ArgumentKind::Literal) return true;
     argument.Flat = -1;
-    if (argument.Kind == "A") {
+    if (argument.Kind == ArgumentKind::Parameter) {
         const CallArgument& passed = arguments_.at(static_cast<std::size_t>(argument.Index));
         if (passed.IsValue()) {
             argument.Kind = passed.Kind;

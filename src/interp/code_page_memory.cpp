@@ -102,7 +102,7 @@ ClsCode::Found ClsCode::AzIsVariableSearch(std::string_view name) {
     for (std::int16_t k = 0; k < NumofMemory(); ++k) {
         const MemoryRec& rec = memory_[static_cast<std::size_t>(k)];
         if (SameName(rec.Name, name, cs))
-            return {"M", this, k, -1, rec.Typ, rec.NI, rec.NJ, rec.Values[0]};
+            return {NameKind::Memory, this, k, -1, rec.Typ, rec.NI, rec.NJ, rec.Values[0]};
     }
     if (pageIndex_ != -1) {
         for (std::int16_t s = 0; s < NumofArg(); ++s) {
@@ -112,7 +112,7 @@ ClsCode::Found ClsCode::AzIsVariableSearch(std::string_view name) {
         ClsCode& global = session_.ImmediatePage();
         for (std::int16_t k = 0; k < global.NumofMemory(); ++k) {
             if (!SameName(global.MemoryName(k), name, cs)) continue;
-            return {"G",
+            return {NameKind::Global,
                     &global,
                     k,
                     -1,
@@ -123,7 +123,7 @@ ClsCode::Found ClsCode::AzIsVariableSearch(std::string_view name) {
         }
     } else if (session_.PageCount() > 0) {
         Found found = session_.Page(0).AzIsVariableSearch(name);
-        if (!found.kind.empty()) found.kind = "Main";
+        if (found.kind != NameKind::None) found.kind = NameKind::Main;
         return found;
     }
     return {};
@@ -132,14 +132,10 @@ ClsCode::Found ClsCode::AzIsVariableSearch(std::string_view name) {
 // A parameter's kind and value follow from what the current call bound to it.
 ClsCode::Found ClsCode::ParameterFound(std::int16_t s) {
     const CallArgument& slot = arguments_[static_cast<std::size_t>(s)];
-    Found found{slot.IsValue() ? "I" : (slot.Flat >= 0 ? "E" : "A"),
-                slot.Page,
-                slot.Index,
-                s,
-                slot.SubscriptCount,
-                slot.NI,
-                slot.NJ,
-                slot.Value};
+    const NameKind kind = slot.IsValue()   ? NameKind::ValueParameter
+                          : slot.Flat >= 0 ? NameKind::ElementParameter
+                                           : NameKind::VariableParameter;
+    Found found{kind, slot.Page, slot.Index, s, slot.SubscriptCount, slot.NI, slot.NJ, slot.Value};
     CallArgument* through = nullptr;
     const MemoryRec* rec = Referent(found, &through);
     // The element may be gone: its array can shrink while bound.
@@ -156,12 +152,13 @@ bool ClsCode::IsCurrent(const Place& place) const {
 ClsCode::Found ClsCode::Locate(std::string_view name, Place& place) {
     if (!IsCurrent(place)) {
         const Found found = AzIsVariableSearch(name);
-        place = {this, namesGeneration_, found.page, found.index, found.slot, found.kind};
+        place = {this,        namesGeneration_, found.page,
+                 found.index, found.slot,       static_cast<std::uint8_t>(found.kind)};
         return found;
     }
     if (place.slot >= 0) return ParameterFound(place.slot);
     Found found;
-    found.kind = place.kind;
+    found.kind = static_cast<NameKind>(place.kind);
     found.page = static_cast<ClsCode*>(place.owner);
     found.index = place.index;
     return found;
@@ -169,8 +166,9 @@ ClsCode::Found ClsCode::Locate(std::string_view name, Place& place) {
 
 MemoryRec* ClsCode::Referent(const Found& found, CallArgument** slot) {
     *slot = nullptr;
-    if (found.kind.empty() || found.kind == "I") {
-        if (found.kind == "I") *slot = &arguments_[static_cast<std::size_t>(found.slot)];
+    if (found.kind == NameKind::None || found.kind == NameKind::ValueParameter) {
+        if (found.kind == NameKind::ValueParameter)
+            *slot = &arguments_[static_cast<std::size_t>(found.slot)];
         return nullptr;
     }
     if (found.slot >= 0) *slot = &arguments_[static_cast<std::size_t>(found.slot)];
@@ -234,15 +232,15 @@ bool ClsCode::ReadVariable(Evaluator& evaluator, std::string_view name,
         return true;
     }
     const Found found = Locate(name, place);
-    if (found.kind.empty()) return false;
+    if (found.kind == NameKind::None) return false;
     // A literal, expression or single element passed as argument is read as
     // it is, without subscripts.
-    if (found.kind == "E") {
+    if (found.kind == NameKind::ElementParameter) {
         CallArgument* slot = nullptr;
         const MemoryRec* rec = Referent(found, &slot);
         if (rec == nullptr || slot->Flat > rec->Ln) return false;
     }
-    if (found.kind == "I" || found.kind == "E") {
+    if (found.kind == NameKind::ValueParameter || found.kind == NameKind::ElementParameter) {
         value = found.value;
         return true;
     }

@@ -306,19 +306,21 @@ bool ClsCode::Assign(const StatementCode& code, Complex& assigned) {
         if (errorText_.empty()) SetErrorText(evaluator.failure());
         return false;
     }
-    if (code.TargetKind == "R") {
+    if (code.Target == TargetKind::Result) {
         valueArea_ = assigned;
         return true;
     }
-    Found target{code.TargetKind, this, code.TargetIndex, -1, 0, 0, 0, {}};
-    if (code.TargetKind == "G") target.page = &session_.ImmediatePage();
-    if (code.TargetKind == "A") {
+    Found target{NameKind::Memory, this, code.TargetIndex, -1, 0, 0, 0, {}};
+    if (code.Target == TargetKind::Global)
+        target = {NameKind::Global, &session_.ImmediatePage(), code.TargetIndex, -1, 0, 0, 0, {}};
+    if (code.Target == TargetKind::Parameter) {
         CallArgument& slot = arguments_.at(static_cast<std::size_t>(code.TargetIndex));
         if (slot.IsValue()) {
             slot.Value = assigned;
             return true;
         }
-        target = {"A", slot.Page, slot.Index, code.TargetIndex, 0, 0, 0, {}};
+        target = {
+            NameKind::VariableParameter, slot.Page, slot.Index, code.TargetIndex, 0, 0, 0, {}};
     }
     CallArgument* slot = nullptr;
     MemoryRec* rec = Referent(target, &slot);

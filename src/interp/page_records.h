@@ -26,6 +26,39 @@ struct MemoryRec {
     std::vector<Complex> Values;
 };
 
+// What a name stands for in a page, as a lookup finds it.
+enum class NameKind : std::uint8_t {
+    None,               // no variable of that name
+    Memory,             // a variable of the page's own memory
+    Global,             // a global
+    Main,               // a variable of "Main", seen from the immediate line
+    ValueParameter,     // a parameter bound to a value
+    ElementParameter,   // a parameter bound to one element of a variable
+    VariableParameter,  // a parameter bound to a whole variable
+};
+
+constexpr bool IsParameter(NameKind kind) {
+    return kind == NameKind::ValueParameter || kind == NameKind::ElementParameter ||
+           kind == NameKind::VariableParameter;
+}
+
+// Where an assignment stores its value.
+enum class TargetKind : std::uint8_t {
+    Result,     // the page's own result (its name)
+    Memory,     // a variable of the page
+    Global,     // a global
+    Parameter,  // a parameter of the page
+};
+
+// What a call passes for one argument, and so what a parameter slot holds.
+enum class ArgumentKind : std::uint8_t {
+    Memory,      // a variable of the caller's memory, by reference
+    Global,      // a global, by reference
+    Parameter,   // a parameter of the caller, passed on
+    Literal,     // a number literal, by value
+    Expression,  // any other expression, by value
+};
+
 // One stored statement and what analysis found out about it.
 struct CodeLine {
     std::string Text;
@@ -35,10 +68,9 @@ struct CodeLine {
     std::int16_t Link = -999;       // branch number inside If / Select Case
 };
 
-// An analysed assignment. Target kinds: "M" page memory, "G" global memory,
-// "A" an argument of the page, "R" the page's own result.
+// An analysed assignment.
 struct StatementCode {
-    std::string TargetKind;
+    TargetKind Target = TargetKind::Result;
     std::int16_t TargetIndex = 0;
     std::int16_t SubscriptCount = 0;
     std::string Subscript1;
@@ -88,11 +120,9 @@ inline constexpr std::string_view kUnconditional = "...";
 
 // One argument of a call, and one parameter slot of a function page (the
 // same layout, so a call's argument is copied into the callee's slot).
-// Kinds: "M" a variable of the caller's memory, "A" a parameter of the
-// caller, "G" a global, "I" a number literal, "S" any other expression.
 struct CallArgument {
     std::string Name;  // the parameter's name (slot) or the argument text
-    std::string Kind;
+    ArgumentKind Kind = ArgumentKind::Literal;
     ClsCode* Page = nullptr;  // owner of the variable referred to
     std::int16_t Index = -1;  // the variable's index there
     std::int16_t SubscriptCount = 0;
@@ -105,7 +135,9 @@ struct CallArgument {
     Complex Value;
     std::string Text;
 
-    bool IsValue() const { return Kind == "I" || Kind == "S"; }
+    bool IsValue() const {
+        return Kind == ArgumentKind::Literal || Kind == ArgumentKind::Expression;
+    }
 };
 
 struct CallEntry {

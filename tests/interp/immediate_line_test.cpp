@@ -79,10 +79,10 @@ TEST(Immediate, EachLineHasItsOwnReason) {
 TEST(Immediate, SeesMainVariablesButGlobalsComeFirst) {
     Session s;
     ASSERT_TRUE(s.Run({"v = 1", "End"}));
-    EXPECT_EQ(s.Global().AzIsVariableSearch("v").kind, "Main");
+    EXPECT_EQ(s.Global().AzIsVariableSearch("v").kind, NameKind::Main);
     EXPECT_EQ(s.Line("v * 2").value.Re, 2.0);
     ASSERT_TRUE(s.Line("v = 5").ok);
-    EXPECT_EQ(s.Global().AzIsVariableSearch("v").kind, "M");
+    EXPECT_EQ(s.Global().AzIsVariableSearch("v").kind, NameKind::Memory);
     EXPECT_EQ(s.Line("v").value.Re, 5.0);
     double re = 0.0, im = 0.0;
     std::int32_t flat = 0;

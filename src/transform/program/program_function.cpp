@@ -69,7 +69,7 @@ namespace {
 std::optional<Complex> CurrentP(Interpreter& session) {
     ClsCode& globals = session.ImmediatePage();
     const ClsCode::Found p = globals.AzIsVariableSearch("p");
-    if (p.kind != "M" || p.page != &globals || p.typ != 0) return std::nullopt;
+    if (p.kind != NameKind::Memory || p.page != &globals || p.typ != 0) return std::nullopt;
     return p.value;
 }
 
@@ -78,12 +78,12 @@ std::optional<Complex> CurrentP(Interpreter& session) {
 bool SetLaplacePoint(Interpreter& session, const Complex& s) {
     ClsCode& globals = session.ImmediatePage();
     ClsCode::Found p = globals.AzIsVariableSearch("p");
-    if (p.kind != "M" || p.page != &globals) {
+    if (p.kind != NameKind::Memory || p.page != &globals) {
         double re = 0.0;
         double im = 0.0;
         if (!globals.AImidateStatement("p=0", re, im)) return false;
         p = globals.AzIsVariableSearch("p");
-        if (p.kind != "M" || p.page != &globals) return false;
+        if (p.kind != NameKind::Memory || p.page != &globals) return false;
     }
     if (p.typ != 0) return false;
     std::int32_t flat = 0;
