@@ -98,8 +98,7 @@ QStringList BoolFunctionCaptions(const Vocabulary& vocabulary) {
     // The blank inside the brackets is where the caret lands (two back).
     QStringList captions;
     for (const ScalarFunction& function : vocabulary.scalarFunctions) {
-        if (function.code >= kBooleanFunctionCode)
-            captions << Q(function.name) + QStringLiteral(" )");
+        if (!function.code) captions << Q(function.name) + QStringLiteral(" )");
     }
     return captions;
 }

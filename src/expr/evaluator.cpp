@@ -205,7 +205,7 @@ bool Evaluator::EvalScalarFunction(const FunctionCallScan& call, Complex& value)
     if (count < function.minArguments || count > function.maxArguments) {
         return Fail(function.name + ") の引数の数が違います");
     }
-    if (function.code >= kBooleanFunctionCode) {
+    if (!function.code) {
         bool truth = false;
         if (!EvalCondition(call.arguments[0], truth)) return false;
         value = {truth ? 1.0 : 0.0, 0.0};
@@ -215,7 +215,7 @@ bool Evaluator::EvalScalarFunction(const FunctionCallScan& call, Complex& value)
     for (std::size_t i = 0; i < args.size(); ++i) {
         if (!EvalScannedSum(call.argumentScans[i].Get(), args[i])) return false;
     }
-    return CallScalarFunction(function.code, args, value);
+    return CallScalarFunction(*function.code, args, value);
 }
 
 bool Evaluator::EvalMatrixFunction(const FunctionCallScan& call, Complex& value) {

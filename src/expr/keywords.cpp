@@ -19,7 +19,7 @@ bool EndsWord(std::string_view text, std::size_t at) {
 
 }  // namespace
 
-std::int16_t ClassifyStatement(std::string_view statement, std::string_view& rest) {
+StatementKind ClassifyStatement(std::string_view statement, std::string_view& rest) {
     const std::string_view text = TrimLeft(statement);
     for (const StatementKeyword& keyword : GetVocabulary().keywords) {
         if (StartsWithWord(text, keyword.word) && EndsWord(text, keyword.word.size())) {
@@ -28,7 +28,7 @@ std::int16_t ClassifyStatement(std::string_view statement, std::string_view& res
         }
     }
     rest = statement;
-    return kw::kAssignmentCode;
+    return kw::NoKeyword;
 }
 
 }  // namespace lapdesk

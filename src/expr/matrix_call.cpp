@@ -4,34 +4,38 @@ namespace lapdesk {
 
 namespace {
 
-// Number of array arguments of each matrix function, in table order.
-constexpr std::size_t kArgumentCounts[] = {2, 2, 2, 1, 1, 1, 1};
+// Number of array arguments of each matrix function.
+std::size_t ArgumentCount(MatrixCode code) {
+    const bool twoArrays =
+        code == MatrixCode::Gauss || code == MatrixCode::MatxVec || code == MatrixCode::MatxMat;
+    return twoArrays ? 2 : 1;
+}
 
 }  // namespace
 
-bool ApplyMatrixFunction(std::size_t index, std::span<const ComplexArray* const> args,
+bool ApplyMatrixFunction(MatrixCode code, std::span<const ComplexArray* const> args,
                          Complex& scalar, std::optional<ComplexArray>& array,
                          const StopPoll& poll) {
-    if (index >= std::size(kArgumentCounts) || args.size() != kArgumentCounts[index]) return false;
+    if (args.size() != ArgumentCount(code)) return false;
     ComplexArray result;
     bool ok = false;
-    switch (index) {
-        case 0:
+    switch (code) {
+        case MatrixCode::Gauss:
             ok = GaussSolve(*args[0], *args[1], result, poll);
             break;
-        case 1:
+        case MatrixCode::MatxVec:
             ok = MatxVec(*args[0], *args[1], result);
             break;
-        case 2:
+        case MatrixCode::MatxMat:
             ok = MatxMat(*args[0], *args[1], result, poll);
             break;
-        case 3:
+        case MatrixCode::MatI1:
             return MatI1(*args[0], scalar);
-        case 4:
+        case MatrixCode::MatJ2:
             return MatJ2(*args[0], scalar);
-        case 5:
+        case MatrixCode::MatI3:
             return MatI3(*args[0], scalar);
-        case 6:
+        case MatrixCode::InvMat:
             ok = InvMat(*args[0], result, poll);
             break;
     }

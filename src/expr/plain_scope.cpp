@@ -6,6 +6,7 @@
 #include "expr/evaluator.h"
 #include "expr/matrix_call.h"
 #include "expr/text_scan.h"
+#include "expr/vocabulary.h"
 
 namespace lapdesk {
 
@@ -54,7 +55,8 @@ bool PlainScope::CallMatrixFunction(std::size_t index, std::span<const std::stri
         args.push_back(&found->second);
     }
     std::optional<ComplexArray> array;
-    if (!ApplyMatrixFunction(index, args, value, array)) return false;
+    const MatrixCode code = GetVocabulary().matrixFunctions.at(index).code;
+    if (!ApplyMatrixFunction(code, args, value, array)) return false;
     if (array) lastArray_ = std::move(array);
     return true;
 }

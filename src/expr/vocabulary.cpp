@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "expr/keywords.h"
 #include "values/builtins.h"
 #include "values/complex.h"
 
@@ -37,14 +38,38 @@ std::vector<CanonicalOperator> CanonicalOperators() {
 }
 
 std::vector<StatementKeyword> Keywords() {
-    return {{"Global", 3},      {"Dim", 2},          {"Call", 4},          {"For", 5},
-            {"Exit For", 7},    {"ExitFor", 7},      {"Next", 6},          {"Do", 8},
-            {"ExitDo", 10},     {"Exit Do", 10},     {"Loop", 9},          {"While", 24},
-            {"Until", 23},      {"If", 11},          {"ElseIf", 13},       {"Else If", 13},
-            {"Else", 12},       {"EndIf", 14},       {"End If", 14},       {"Select", 18},
-            {"CaseElse", 20},   {"Case Else", 20},   {"Case", 19},         {"EndSelect", 21},
-            {"End Select", 21}, {"Function", 16},    {"ExitFunction", 17}, {"Exit Function", 17},
-            {"EndFunction", 1}, {"End Function", 1}, {"Return", 15},       {"End", 1}};
+    return {{"Global", kw::Global},
+            {"Dim", kw::Dim},
+            {"Call", kw::Call},
+            {"For", kw::For},
+            {"Exit For", kw::ExitFor},
+            {"ExitFor", kw::ExitFor},
+            {"Next", kw::Next},
+            {"Do", kw::Do},
+            {"ExitDo", kw::ExitDo},
+            {"Exit Do", kw::ExitDo},
+            {"Loop", kw::Loop},
+            {"While", kw::While},
+            {"Until", kw::Until},
+            {"If", kw::If},
+            {"ElseIf", kw::ElseIf},
+            {"Else If", kw::ElseIf},
+            {"Else", kw::Else},
+            {"EndIf", kw::EndIf},
+            {"End If", kw::EndIf},
+            {"Select", kw::Select},
+            {"CaseElse", kw::CaseElse},
+            {"Case Else", kw::CaseElse},
+            {"Case", kw::Case},
+            {"EndSelect", kw::EndSelect},
+            {"End Select", kw::EndSelect},
+            {"Function", kw::Function},
+            {"ExitFunction", kw::ExitFunction},
+            {"Exit Function", kw::ExitFunction},
+            {"EndFunction", kw::End},
+            {"End Function", kw::End},
+            {"Return", kw::Return},
+            {"End", kw::End}};
 }
 
 std::vector<std::string> KeywordMenu() {
@@ -102,46 +127,50 @@ std::vector<std::string> ConstantHelp() {
 }
 
 std::vector<ScalarFunction> ScalarFunctions() {
-    return {{"Sin(", 0, 1, 1, "Sin()"},
-            {"Cos(", 1, 1, 1, "Cos()"},
-            {"Tan(", 2, 1, 1, "Tan()"},
-            {"Atan(", 3, 1, 1, "Atan() , Atn()"},
-            {"Atn(", 4, 1, 1, ""},
-            {"Exp(", 5, 1, 1, "Exp()"},
-            {"Log(", 6, 1, 1, "Log()"},
-            {"Log10(", 7, 1, 1, "Log10()"},
-            {"Log2(", 8, 1, 1, "Log2()"},
-            {"Sqrt(", 9, 1, 1, "Sqrt() , Sqr()"},
-            {"Sqr(", 10, 1, 1, ""},
-            {"Qbic(", 11, 1, 1, "Qbic()"},
-            {"Sinh(", 12, 1, 1, "Sinh()"},
-            {"Cosh(", 13, 1, 1, "Cosh()"},
-            {"Tanh(", 14, 1, 1, "Tanh()"},
-            {"Cpx(", 15, 2, 2, "Cpx(,)：Cpx(a,b)=a+bj"},
-            {"Conj(", 16, 1, 1, "Conj()：共役"},
-            {"Real(", 17, 1, 1, "Real()：実部"},
-            {"Image(", 18, 1, 1, "Image()：虚部"},
-            {"Abs(", 19, 1, 1, "Abs()：絶対値"},
-            {"Arg(", 20, 1, 1, "Arg()：偏角"},
-            {"Integer(", 21, 1, 1, "Integer()：整数化"},
-            {"Power(", 22, 2, 2, "Power(a,b)：a^b"},
-            {"Random(", 23, 0, 1, "Random()：乱数"},
-            {"Randomize(", 24, 0, 1, "Randomize()：乱数初期化"},
-            {"Boolean(", kBooleanFunctionCode, 1, 1, "Boolean()：論理評価(真=1,偽=0)"}};
+    return {{"Sin(", ScalarCode::Sin, 1, 1, "Sin()"},
+            {"Cos(", ScalarCode::Cos, 1, 1, "Cos()"},
+            {"Tan(", ScalarCode::Tan, 1, 1, "Tan()"},
+            {"Atan(", ScalarCode::Atan, 1, 1, "Atan() , Atn()"},
+            {"Atn(", ScalarCode::Atan, 1, 1, ""},
+            {"Exp(", ScalarCode::Exp, 1, 1, "Exp()"},
+            {"Log(", ScalarCode::Log, 1, 1, "Log()"},
+            {"Log10(", ScalarCode::Log10, 1, 1, "Log10()"},
+            {"Log2(", ScalarCode::Log2, 1, 1, "Log2()"},
+            {"Sqrt(", ScalarCode::Sqrt, 1, 1, "Sqrt() , Sqr()"},
+            {"Sqr(", ScalarCode::Sqrt, 1, 1, ""},
+            {"Qbic(", ScalarCode::Qbic, 1, 1, "Qbic()"},
+            {"Sinh(", ScalarCode::Sinh, 1, 1, "Sinh()"},
+            {"Cosh(", ScalarCode::Cosh, 1, 1, "Cosh()"},
+            {"Tanh(", ScalarCode::Tanh, 1, 1, "Tanh()"},
+            {"Cpx(", ScalarCode::Cpx, 2, 2, "Cpx(,)：Cpx(a,b)=a+bj"},
+            {"Conj(", ScalarCode::Conj, 1, 1, "Conj()：共役"},
+            {"Real(", ScalarCode::Real, 1, 1, "Real()：実部"},
+            {"Image(", ScalarCode::Image, 1, 1, "Image()：虚部"},
+            {"Abs(", ScalarCode::Abs, 1, 1, "Abs()：絶対値"},
+            {"Arg(", ScalarCode::Arg, 1, 1, "Arg()：偏角"},
+            {"Integer(", ScalarCode::Integer, 1, 1, "Integer()：整数化"},
+            {"Power(", ScalarCode::Power, 2, 2, "Power(a,b)：a^b"},
+            {"Random(", ScalarCode::Random, 0, 1, "Random()：乱数"},
+            {"Randomize(", ScalarCode::Randomize, 0, 1, "Randomize()：乱数初期化"},
+            {"Boolean(", std::nullopt, 1, 1, "Boolean()：論理評価(真=1,偽=0)"}};
 }
 
 std::vector<MatrixFunction> MatrixFunctions() {
-    return {{"Gauss(", "'  書式：X=Gauss(A,B) → X(i)=Inv{A(i,j)}･B(j)",
-             "'連立方程式 A(i,j)･X(j)=B(i) の解"},
-            {"MatxVec(", "'  書式：C=MatxVec(A,B) → C(i)=ΣA(i,k)･B(k)",
-             "'マトリクス A とベクトル B の積"},
-            {"MatxMat(", "'  書式：C=MatxMat(A,B) → C(i,j)=ΣA(i,k)･B(k,j)",
-             "'マトリクス A とマトリクス B の積"},
-            {"MatI1(", "'  書式：I1=MatI1(A) → I1=ΣA(i,i)", "'マトリクス A の第一不変量"},
-            {"MatJ2(", "'  書式：J2=MatJ2(A) → J2=ΣΣA(i,j)･B(i,j)",
-             "'マトリクス A の偏差成分の第二不変量"},
-            {"MatI3(", "'  書式：I3=MatI3(A) → I3=|A(i,j)|", "'マトリクス A の第三不変量"},
-            {"INVMAT(", "'  書式：InvA=MatInv(A) → InvA(i,j)=Inv{A(i,j)}", "'逆行列"}};
+    return {
+        {"Gauss(", MatrixCode::Gauss, MatrixResult::Vector,
+         "'  書式：X=Gauss(A,B) → X(i)=Inv{A(i,j)}･B(j)", "'連立方程式 A(i,j)･X(j)=B(i) の解"},
+        {"MatxVec(", MatrixCode::MatxVec, MatrixResult::Vector,
+         "'  書式：C=MatxVec(A,B) → C(i)=ΣA(i,k)･B(k)", "'マトリクス A とベクトル B の積"},
+        {"MatxMat(", MatrixCode::MatxMat, MatrixResult::Matrix,
+         "'  書式：C=MatxMat(A,B) → C(i,j)=ΣA(i,k)･B(k,j)", "'マトリクス A とマトリクス B の積"},
+        {"MatI1(", MatrixCode::MatI1, MatrixResult::Scalar, "'  書式：I1=MatI1(A) → I1=ΣA(i,i)",
+         "'マトリクス A の第一不変量"},
+        {"MatJ2(", MatrixCode::MatJ2, MatrixResult::Scalar,
+         "'  書式：J2=MatJ2(A) → J2=ΣΣA(i,j)･B(i,j)", "'マトリクス A の偏差成分の第二不変量"},
+        {"MatI3(", MatrixCode::MatI3, MatrixResult::Scalar, "'  書式：I3=MatI3(A) → I3=|A(i,j)|",
+         "'マトリクス A の第三不変量"},
+        {"INVMAT(", MatrixCode::InvMat, MatrixResult::Matrix,
+         "'  書式：InvA=MatInv(A) → InvA(i,j)=Inv{A(i,j)}", "'逆行列"}};
 }
 
 Vocabulary& Tables() {

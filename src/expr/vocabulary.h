@@ -9,6 +9,9 @@
 #include <string_view>
 #include <vector>
 
+#include "expr/keywords.h"
+#include "expr/matrix_call.h"
+#include "values/builtins.h"
 #include "values/complex.h"
 
 namespace lapdesk {
@@ -25,7 +28,7 @@ struct CanonicalOperator {
 
 struct StatementKeyword {
     std::string word;  // "Exit For", "ExitFor", "End If", ...
-    std::int16_t code;
+    StatementKind code;
 };
 
 struct NamedConstant {
@@ -34,8 +37,10 @@ struct NamedConstant {
 };
 
 struct ScalarFunction {
-    std::string name;   // with its opening bracket: "Sin("
-    std::int16_t code;  // handed to CallScalarFunction; >= 1000 evaluates a condition
+    std::string name;  // with its opening bracket: "Sin("
+    // Handed to CallScalarFunction; none for "Boolean(", whose argument is
+    // evaluated as a condition.
+    std::optional<ScalarCode> code;
     int minArguments;
     int maxArguments;
     std::string help;  // empty when the row shares the line above
@@ -43,6 +48,8 @@ struct ScalarFunction {
 
 struct MatrixFunction {
     std::string name;  // "Gauss(" ...
+    MatrixCode code;
+    MatrixResult result;
     std::string usage;
     std::string description;
 };
@@ -57,9 +64,6 @@ struct Vocabulary {
     std::vector<ScalarFunction> scalarFunctions;
     std::vector<MatrixFunction> matrixFunctions;
 };
-
-// The code "Boolean(" carries: its argument is evaluated as a condition.
-inline constexpr std::int16_t kBooleanFunctionCode = 1000;
 
 // Fills the tables (once) and sets the process-wide defaults: AngleUnit 1.0
 // and a fresh seed for the random numbers.

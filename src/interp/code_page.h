@@ -151,9 +151,9 @@ class ClsCode : public NameScope {
     bool AnalyseDo(std::int16_t& i, std::string_view rest);
     bool AnalyseIf(std::int16_t& i, std::string_view rest);
     bool AnalyseSelect(std::int16_t& i, std::string_view rest);
-    bool AnalyseExit(std::int16_t i, std::int16_t code);
+    bool AnalyseExit(std::int16_t i, StatementKind code);
     bool EndsPage(std::int16_t i) const;
-    void MarkLine(std::int16_t i, std::int16_t kind, std::int16_t codeIndex, std::int16_t link);
+    void MarkLine(std::int16_t i, StatementKind kind, std::int16_t codeIndex, std::int16_t link);
 
     // Execution (code_page_run.cpp).
     Flow RunLoop(std::int16_t& line, std::int16_t first, std::int16_t last);

@@ -17,7 +17,7 @@ namespace lapdesk {
 
 namespace {
 
-std::int16_t Classify(const CodeLine& line, std::string_view& rest) {
+StatementKind Classify(const CodeLine& line, std::string_view& rest) {
     return ClassifyStatement(line.Text, rest);
 }
 
@@ -26,15 +26,15 @@ std::int16_t Count(std::size_t size) {
 }
 
 // [While cond | Until cond] after Do or Loop.
-bool ConditionWord(std::string_view rest, std::string& word, std::string& condition) {
+bool ConditionWord(std::string_view rest, StatementKind& word, std::string& condition) {
     std::string_view after;
-    const std::int16_t code = ClassifyStatement(rest, after);
+    const StatementKind code = ClassifyStatement(rest, after);
     if (code == kw::While || code == kw::Until) {
-        word = code == kw::While ? "W" : "U";
+        word = code;
         condition = std::string(after);
         return !Trim(after).empty();
     }
-    word.clear();
+    word = kw::NoKeyword;
     condition.clear();
     return Trim(rest).empty();
 }
@@ -52,7 +52,7 @@ bool ClsCode::Fail(std::string reason) {
     return false;
 }
 
-void ClsCode::MarkLine(std::int16_t i, std::int16_t kind, std::int16_t codeIndex,
+void ClsCode::MarkLine(std::int16_t i, StatementKind kind, std::int16_t codeIndex,
                        std::int16_t link) {
     CodeLine& line = lines_[static_cast<std::size_t>(i)];
     line.Kind = kind;
@@ -119,10 +119,10 @@ bool ClsCode::AnalyseLine(std::int16_t& i) {
     // Blocks nest by recursion here: a program nested too deep fails cleanly.
     NestingGuard guard;
     if (!guard.ok()) return Fail(RuntimeFault(FaultCode::StackSpace).description());
-    lines_[static_cast<std::size_t>(i)].Kind = -1;
+    lines_[static_cast<std::size_t>(i)].Kind = kw::NoKeyword;
     const std::string text = lines_[static_cast<std::size_t>(i)].Text;
     std::string_view rest;
-    const std::int16_t code = ClassifyStatement(text, rest);
+    const StatementKind code = ClassifyStatement(text, rest);
     std::vector<std::string_view> items;
     switch (code) {
         case kw::Dim:
@@ -296,7 +296,7 @@ bool ClsCode::AnalyseDo(std::int16_t& i, std::string_view rest) {
     return true;
 }
 
-bool ClsCode::AnalyseExit(std::int16_t i, std::int16_t code) {
+bool ClsCode::AnalyseExit(std::int16_t i, StatementKind code) {
     const std::int16_t innermost = code == kw::ExitFor ? innermostFor_ : innermostDo_;
     if (innermost < 0) return Fail(code == kw::ExitFor ? "Forが無い" : "Doが無い");
     MarkLine(i, code, innermost, -999);
@@ -332,7 +332,7 @@ bool ClsCode::AnalyseIf(std::int16_t& i, std::string_view rest) {
             return Fail("Endifが無い");
         }
         std::string_view after;
-        const std::int16_t code = Classify(lines_[static_cast<std::size_t>(i)], after);
+        const StatementKind code = Classify(lines_[static_cast<std::size_t>(i)], after);
         IfBlock& open = ifs_[static_cast<std::size_t>(entry)];
         const std::int16_t branch = Count(open.Boundaries.size() + 1);
         if (code == kw::ElseIf || code == kw::Else || code == kw::EndIf) {
@@ -372,7 +372,7 @@ bool ClsCode::AnalyseSelect(std::int16_t& i, std::string_view rest) {
             return Fail("EndSelectが無い");
         }
         std::string_view after;
-        const std::int16_t code = Classify(lines_[static_cast<std::size_t>(i)], after);
+        const StatementKind code = Classify(lines_[static_cast<std::size_t>(i)], after);
         SelectBlock& open = selects_[static_cast<std::size_t>(entry)];
         if (code != kw::Case && code != kw::CaseElse && code != kw::EndSelect) {
             if (!AnalyseLine(i)) return false;

@@ -265,7 +265,8 @@ bool ClsCode::CallMatrixFunction(std::size_t index, std::span<const std::string_
     for (const ComplexArray& array : arrays)
         args.push_back(&array);
     std::optional<ComplexArray> array;
-    if (!ApplyMatrixFunction(index, args, value, array, [this] { CheckStop(); })) return false;
+    const MatrixCode code = GetVocabulary().matrixFunctions.at(index).code;
+    if (!ApplyMatrixFunction(code, args, value, array, [this] { CheckStop(); })) return false;
     if (array) arrayResult_ = std::move(array);
     return true;
 }

@@ -125,7 +125,7 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
     // Read before anything runs, so that nothing below depends on the
     // line's record staying where it is.
     const CodeLine& stored = Line(line);
-    const std::int16_t kind = stored.Kind;
+    const StatementKind kind = stored.Kind;
     const std::int16_t link = stored.Link;
     const auto index = static_cast<std::size_t>(stored.CodeIndex);
     ClearErrorText();
@@ -250,12 +250,13 @@ bool ClsCode::RunFor(std::int16_t& line, bool isNext) {
 
 bool ClsCode::RunDo(std::int16_t& line, bool isLoop) {
     const DoBlock& block = dos_[static_cast<std::size_t>(Line(line).CodeIndex)];
-    const std::string& word = isLoop ? block.LoopWord : block.DoWord;
+    const StatementKind word = isLoop ? block.LoopWord : block.DoWord;
     bool truth = false;
-    if (!word.empty() && !Condition(isLoop ? block.LoopCondition : block.DoCondition, truth)) {
+    if (word != kw::NoKeyword &&
+        !Condition(isLoop ? block.LoopCondition : block.DoCondition, truth)) {
         return false;
     }
-    const bool whileHolds = word.empty() || (word == "W") == truth;
+    const bool whileHolds = word == kw::NoKeyword || (word == kw::While) == truth;
     if (!isLoop && !whileHolds) line = block.LoopLine;
     if (isLoop && whileHolds) line = Sub16(block.DoLine, 1);
     return true;
@@ -333,7 +334,8 @@ bool ClsCode::Assign(const StatementCode& code, Complex& assigned) {
         IsWholeMatrixCall(code.Expression, row)) {
         // The target takes the result's dimensions and values.
         const ComplexArray& array = *arrayResult_;
-        rec->Typ = (row == 2 || row == 6) ? 2 : 1;
+        const MatrixResult shape = GetVocabulary().matrixFunctions[row].result;
+        rec->Typ = shape == MatrixResult::Matrix ? 2 : 1;
         rec->NI = ToInt16(array.NI);
         rec->NJ = ToInt16(array.NJ);
         rec->Ln = Sub16(Mul16(Add16(rec->NI, 1), Add16(rec->NJ, 1)), 1);

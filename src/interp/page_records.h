@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "expr/expression_scan.h"
+#include "expr/keywords.h"
 #include "expr/scan_cache.h"
 #include "values/complex.h"
 
@@ -62,10 +63,10 @@ enum class ArgumentKind : std::uint8_t {
 // One stored statement and what analysis found out about it.
 struct CodeLine {
     std::string Text;
-    std::int16_t LnNo = 0;          // entry of the program list to highlight
-    std::int16_t Kind = -1;         // statement code; kw::Assignment, kw::BareCall too
-    std::int16_t CodeIndex = -999;  // entry in the table of its kind
-    std::int16_t Link = -999;       // branch number inside If / Select Case
+    std::int16_t LnNo = 0;                          // entry of the program list to highlight
+    StatementKind Kind = StatementKind::NoKeyword;  // NoKeyword until analysed
+    std::int16_t CodeIndex = -999;                  // entry in the table of its kind
+    std::int16_t Link = -999;                       // branch number inside If / Select Case
 };
 
 // An analysed assignment.
@@ -96,9 +97,9 @@ struct ForBlock {
 struct DoBlock {
     std::int16_t DoLine = 0;
     std::int16_t LoopLine = -1;
-    std::string DoWord;  // "W", "U" or empty
+    kw DoWord = kw::NoKeyword;  // While, Until or NoKeyword
     std::string DoCondition;
-    std::string LoopWord;
+    kw LoopWord = kw::NoKeyword;
     std::string LoopCondition;
 };
 

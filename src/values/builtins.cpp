@@ -109,77 +109,75 @@ void ReseedRandom() {
         static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count()));
 }
 
-bool CallScalarFunction(std::int16_t code, std::span<const Complex> args, Complex& result) {
+bool CallScalarFunction(ScalarCode code, std::span<const Complex> args, Complex& result) {
     switch (code) {
-        case 0:
+        case ScalarCode::Sin:
             result = Sin(Arg(args, 0));
             break;
-        case 1:
+        case ScalarCode::Cos:
             result = ComplexCos(ToRadians(Arg(args, 0)));
             break;
-        case 2:
+        case ScalarCode::Tan:
             result = Tan(Arg(args, 0));
             break;
-        case 3:
-        case 4:
+        case ScalarCode::Atan:
             result = Atan(Arg(args, 0));
             break;
-        case 5:
+        case ScalarCode::Exp:
             result = CplExp(Arg(args, 0));
             break;
-        case 6:
+        case ScalarCode::Log:
             result = CplLog(Arg(args, 0));
             break;
-        case 7:
+        case ScalarCode::Log10:
             result = LogScaled(10.0, Arg(args, 0));
             break;
-        case 8:
+        case ScalarCode::Log2:
             result = LogScaled(2.0, Arg(args, 0));
             break;
-        case 9:
-        case 10:
+        case ScalarCode::Sqrt:
             result = Sqrt(Arg(args, 0));
             break;
-        case 11:
+        case ScalarCode::Qbic:
             result = Qbic(Arg(args, 0));
             break;
-        case 12:
+        case ScalarCode::Sinh:
             result = ComplexSinh(Arg(args, 0));
             break;
-        case 13:
+        case ScalarCode::Cosh:
             result = ComplexCosh(Arg(args, 0));
             break;
-        case 14:
+        case ScalarCode::Tanh:
             result = Tanh(Arg(args, 0));
             break;
-        case 15:
+        case ScalarCode::Cpx:
             result = {Arg(args, 0).Re, Arg(args, 1).Re};
             break;
-        case 16:
+        case ScalarCode::Conj:
             result = {Arg(args, 0).Re, -Arg(args, 0).Im};
             break;
-        case 17:
+        case ScalarCode::Real:
             result = {Arg(args, 0).Re, 0.0};
             break;
-        case 18:
+        case ScalarCode::Image:
             result = {Arg(args, 0).Im, 0.0};
             break;
-        case 19:
+        case ScalarCode::Abs:
             result = {CplAbs(Arg(args, 0)), 0.0};
             break;
-        case 20:
+        case ScalarCode::Arg:
             result = {CplArg(Arg(args, 0)), 0.0};
             break;
-        case 21:
+        case ScalarCode::Integer:
             result = Integer(Arg(args, 0));
             break;
-        case 22:
+        case ScalarCode::Power:
             result = CplPow(Arg(args, 0), Arg(args, 1));
             break;
-        case 23:
+        case ScalarCode::Random:
             result = {NextRandom(), 0.0};
             break;
-        case 24:
+        case ScalarCode::Randomize:
             ReseedRandom();
             result = {NextRandom(), 0.0};
             break;

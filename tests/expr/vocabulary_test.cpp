@@ -40,19 +40,6 @@ TEST(VocabularyTables, LongerKeywordsComeBeforeTheirPrefixes) {
     }
 }
 
-// The evaluator hands a function's row code to the built-ins, which number
-// the functions in table order; only "Boolean(" is evaluated apart.
-TEST(VocabularyTables, ScalarFunctionCodesAreTheirRows) {
-    const std::vector<ScalarFunction>& functions = GetVocabulary().scalarFunctions;
-    ASSERT_FALSE(functions.empty());
-    for (std::size_t i = 0; i < functions.size(); ++i) {
-        const std::int16_t expected =
-            functions[i].name == "Boolean(" ? kBooleanFunctionCode : static_cast<std::int16_t>(i);
-        EXPECT_EQ(functions[i].code, expected) << functions[i].name;
-    }
-}
-
-// A name that begins with a digit is never reserved, not even a constant's.
 TEST(ReservedWords, VocabularyWordsAreReservedButNotNamesStartingWithDigits) {
     const struct {
         const char* name;
@@ -69,7 +56,7 @@ TEST(ReservedWords, VocabularyWordsAreReservedButNotNamesStartingWithDigits) {
 TEST(ClassifyStatement, FirstKeywordInTableOrderAsAWholeWord) {
     const struct {
         const char* statement;
-        std::int16_t code;
+        StatementKind code;
         const char* rest;
     } rows[] = {{"End If", kw::EndIf, ""},
                 {"End", kw::End, ""},
@@ -81,9 +68,9 @@ TEST(ClassifyStatement, FirstKeywordInTableOrderAsAWholeWord) {
                 {"Else", kw::Else, ""},
                 {"  for i=1 to 3", kw::For, "i=1 to 3"},
                 {"Return   x+1", kw::Return, "x+1"},
-                {"Format = 1", kw::kAssignmentCode, "Format = 1"},
-                {"Do_it = 4", kw::kAssignmentCode, "Do_it = 4"},
-                {"", kw::kAssignmentCode, ""}};
+                {"Format = 1", kw::NoKeyword, "Format = 1"},
+                {"Do_it = 4", kw::NoKeyword, "Do_it = 4"},
+                {"", kw::NoKeyword, ""}};
     for (const auto& row : rows) {
         std::string_view rest = "(unset)";
         EXPECT_EQ(ClassifyStatement(row.statement, rest), row.code) << '"' << row.statement << '"';

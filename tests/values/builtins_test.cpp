@@ -1,4 +1,4 @@
-// The scalar built-in functions, called by their codes 0..24.
+// The scalar built-in functions, called by their codes.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -13,86 +13,87 @@
 #include "values/number_text.h"
 
 namespace lapdesk {
+
+// Failure messages name a function by its code.
+std::ostream& operator<<(std::ostream& os, ScalarCode code) {
+    return os << "code " << static_cast<int>(code);
+}
+
 namespace {
 
 constexpr double kPi = std::numbers::pi;
 
-// Function codes, in the order of the scalar function table.
-constexpr std::int16_t kSin = 0, kCos = 1, kTan = 2, kAtan = 3, kAtn = 4, kExp = 5, kLog = 6,
-                       kLog10 = 7, kLog2 = 8, kSqrt = 9, kSqr = 10, kQbic = 11, kSinh = 12,
-                       kCosh = 13, kTanh = 14, kCpx = 15, kConj = 16, kReal = 17, kImage = 18,
-                       kAbs = 19, kArg = 20, kInteger = 21, kPower = 22;
+using enum ScalarCode;
 
 // A real argument takes the real routine: the imaginary part of the result
 // is exactly 0, even where the complex formula would leave a residue.
 TEST(ScalarFunctions, RealArgumentsGiveRealResults) {
-    for (std::int16_t code : {kSin, kCos, kTan, kAtan, kExp, kLog, kLog10, kLog2, kSqrt, kQbic,
-                              kSinh, kCosh, kTanh, kAbs, kArg, kInteger}) {
+    for (ScalarCode code : {Sin, Cos, Tan, Atan, Exp, Log, Log10, Log2, Sqrt, Qbic, Sinh, Cosh,
+                            Tanh, Abs, Arg, Integer}) {
         Complex result{99, 99};
         const std::vector<Complex> args{{0.7, 0}};
-        ASSERT_TRUE(CallScalarFunction(code, args, result)) << "code " << code;
-        EXPECT_EQ(result.Im, 0.0) << "code " << code;
+        ASSERT_TRUE(CallScalarFunction(code, args, result)) << code;
+        EXPECT_EQ(result.Im, 0.0) << code;
     }
 }
 
 // Integer rounds to nearest with ties to even and drops the imaginary part.
 TEST(ScalarFunctions, GiveTheValue) {
     const struct {
-        std::int16_t code;
+        ScalarCode code;
         std::vector<Complex> args;
         Complex expected;
         double tolerance;  // 0: bit-exact
-    } rows[] = {{kAtn, {{1, 0}}, {std::atan(1.0), 0}, 0},
-                {kLog, {{-1, 0}}, {0, 3.14159265358979}, 0},
-                {kLog2, {{8, 0}}, {3, 0}, 1e-15},
-                {kSqrt, {{-4, 0}}, {0, 2}, 0},
-                {kSqr, {{-4, 0}}, {0, 2}, 0},
-                {kQbic, {{-8, 0}}, {1, std::sqrt(3.0)}, 1e-14},
-                {kTanh, {{400, 0}}, {1, 0}, 0},
-                {kPower, {{0, 0}, {0, 0}}, {1, 0}, 0},
-                {kSin, {{kPi / 2, 1}}, {std::cosh(1.0), 0}, 1e-14},
-                {kCos, {{0, 1}}, {std::cosh(1.0), 0}, 1e-14},
-                {kTan, {{0, 1}}, {0, std::tanh(1.0)}, 1e-14},
-                {kAtan, {{0, 0.5}}, {0, std::atanh(0.5)}, 1e-14},
-                {kExp, {{0, kPi}}, {-1, 0}, 1e-14},
-                {kLog10, {{0, 100}}, {2, kPi / 2 / std::log(10.0)}, 1e-14},
-                {kSqrt, {{0, 2}}, {1, 1}, 1e-14},
-                {kQbic, {{0, 8}}, {std::sqrt(3.0), 1}, 1e-14},
-                {kSinh, {{0, kPi / 2}}, {0, 1}, 1e-14},
-                {kCpx, {{1, 5}, {2, 3}}, {1, 2}, 0},
-                {kConj, {{3, 4}}, {3, -4}, 0},
-                {kReal, {{3, 4}}, {3, 0}, 0},
-                {kImage, {{3, 4}}, {4, 0}, 0},
-                {kAbs, {{3, 4}}, {5, 0}, 0},
-                {kArg, {{0, 1}}, {kPi / 2, 0}, 1e-14},
-                {kPower, {{0, 1}, {0, 1}}, {std::exp(-kPi / 2), 0}, 1e-14},
-                {kInteger, {{2.5, 0}}, {2, 0}, 0},
-                {kInteger, {{3.5, 0}}, {4, 0}, 0},
-                {kInteger, {{1.7, 5}}, {2, 0}, 0},
-                {kInteger, {{2147483647.4, 0}}, {2147483647, 0}, 0},
-                {kInteger, {{-2147483648.0, 0}}, {-2147483648.0, 0}, 0}};
+    } rows[] = {{Atan, {{1, 0}}, {std::atan(1.0), 0}, 0},
+                {Log, {{-1, 0}}, {0, 3.14159265358979}, 0},
+                {Log2, {{8, 0}}, {3, 0}, 1e-15},
+                {Sqrt, {{-4, 0}}, {0, 2}, 0},
+                {Sqrt, {{-4, 0}}, {0, 2}, 0},
+                {Qbic, {{-8, 0}}, {1, std::sqrt(3.0)}, 1e-14},
+                {Tanh, {{400, 0}}, {1, 0}, 0},
+                {Power, {{0, 0}, {0, 0}}, {1, 0}, 0},
+                {Sin, {{kPi / 2, 1}}, {std::cosh(1.0), 0}, 1e-14},
+                {Cos, {{0, 1}}, {std::cosh(1.0), 0}, 1e-14},
+                {Tan, {{0, 1}}, {0, std::tanh(1.0)}, 1e-14},
+                {Atan, {{0, 0.5}}, {0, std::atanh(0.5)}, 1e-14},
+                {Exp, {{0, kPi}}, {-1, 0}, 1e-14},
+                {Log10, {{0, 100}}, {2, kPi / 2 / std::log(10.0)}, 1e-14},
+                {Sqrt, {{0, 2}}, {1, 1}, 1e-14},
+                {Qbic, {{0, 8}}, {std::sqrt(3.0), 1}, 1e-14},
+                {Sinh, {{0, kPi / 2}}, {0, 1}, 1e-14},
+                {Cpx, {{1, 5}, {2, 3}}, {1, 2}, 0},
+                {Conj, {{3, 4}}, {3, -4}, 0},
+                {Real, {{3, 4}}, {3, 0}, 0},
+                {Image, {{3, 4}}, {4, 0}, 0},
+                {Abs, {{3, 4}}, {5, 0}, 0},
+                {Arg, {{0, 1}}, {kPi / 2, 0}, 1e-14},
+                {Power, {{0, 1}, {0, 1}}, {std::exp(-kPi / 2), 0}, 1e-14},
+                {Integer, {{2.5, 0}}, {2, 0}, 0},
+                {Integer, {{3.5, 0}}, {4, 0}, 0},
+                {Integer, {{1.7, 5}}, {2, 0}, 0},
+                {Integer, {{2147483647.4, 0}}, {2147483647, 0}, 0},
+                {Integer, {{-2147483648.0, 0}}, {-2147483648.0, 0}, 0}};
     for (const auto& row : rows) {
         Complex result{99, 99};
-        ASSERT_TRUE(CallScalarFunction(row.code, row.args, result)) << "code " << row.code;
-        EXPECT_TRUE(Near(result, row.expected, row.tolerance))
-            << "code " << row.code << " of " << row.args[0];
+        ASSERT_TRUE(CallScalarFunction(row.code, row.args, result)) << row.code;
+        EXPECT_TRUE(Near(result, row.expected, row.tolerance)) << row.code << " of " << row.args[0];
     }
 }
 
 TEST(ScalarFunctionFaults, TooFewArgumentsIsTheSubscriptFault) {
     struct Row {
-        std::int16_t code;
+        ScalarCode code;
         std::size_t given;
     };
-    const Row rows[] = {{kSin, 0}, {kSqrt, 0}, {kCpx, 1}, {kPower, 1}, {kInteger, 0}};
+    const Row rows[] = {{Sin, 0}, {Sqrt, 0}, {Cpx, 1}, {Power, 1}, {Integer, 0}};
     for (const Row& row : rows) {
         const std::vector<Complex> args(row.given, Complex{1, 0});
         Complex result{5, 5};
         try {
             CallScalarFunction(row.code, args, result);
-            ADD_FAILURE() << "code " << row.code << " ran with " << row.given << " arguments";
+            ADD_FAILURE() << row.code << " ran with " << row.given << " arguments";
         } catch (const RuntimeFault& fault) {
-            EXPECT_EQ(fault.code(), FaultCode::SubscriptOutOfRange) << "code " << row.code;
+            EXPECT_EQ(fault.code(), FaultCode::SubscriptOutOfRange) << row.code;
         }
         EXPECT_EQ(result, (Complex{5, 5}));
     }
@@ -101,27 +102,28 @@ TEST(ScalarFunctionFaults, TooFewArgumentsIsTheSubscriptFault) {
 // Integer outside 32 bits overflows instead of wrapping.
 TEST(ScalarFunctionFaults, ArithmeticFaultsPropagate) {
     const struct {
-        std::int16_t code;
+        ScalarCode code;
         Complex arg;
-    } rows[] = {{kExp, {1000, 0}},
-                {kSinh, {1000, 0}},
-                {kCosh, {-1000, 0}},
-                {kLog, {0, 0}},
-                {kAtan, {0, 1}},
-                {kTan, {0, 1000}},
-                {kInteger, {2147483648.0, 0}},
-                {kInteger, {-2147483649.0, 0}}};
+    } rows[] = {{Exp, {1000, 0}},
+                {Sinh, {1000, 0}},
+                {Cosh, {-1000, 0}},
+                {Log, {0, 0}},
+                {Atan, {0, 1}},
+                {Tan, {0, 1000}},
+                {Integer, {2147483648.0, 0}},
+                {Integer, {-2147483649.0, 0}}};
     for (const auto& row : rows) {
         Complex result;
         const std::vector<Complex> args{row.arg};
         EXPECT_THROW(CallScalarFunction(row.code, args, result), RuntimeFault)
-            << "code " << row.code << " of " << row.arg;
+            << row.code << " of " << row.arg;
     }
 }
 
 TEST(ScalarFunctionCodes, OutsideTheTableAreRefused) {
     const std::vector<Complex> args{{1, 0}, {1, 0}};
-    for (std::int16_t code : {std::int16_t{-1}, std::int16_t{25}, std::int16_t{1000}}) {
+    for (int value : {-1, 23, 1000}) {
+        const auto code = static_cast<ScalarCode>(value);
         Complex result{5, 5};
         EXPECT_FALSE(CallScalarFunction(code, args, result)) << code;
         EXPECT_EQ(result, (Complex{5, 5}));
@@ -133,20 +135,20 @@ TEST(ScalarFunctionsInDegrees, TakeAndGiveDegrees) {
     const AngleUnitScope degrees(kDegreeUnit);
     struct Row {
         const char* name;
-        std::int16_t code;
+        ScalarCode code;
         Complex arg;
         Complex expected;
         double tolerance;
     };
     const Row rows[] = {
-        {"Sin(90)", kSin, {90, 0}, {1, 0}, 0},
-        {"Cos(60)", kCos, {60, 0}, {0.5, 0}, 1e-14},
-        {"Atan(1)", kAtan, {1, 0}, {45, 0}, 1e-12},
-        {"Atan(0.5j)", kAtan, {0, 0.5}, {0, std::atanh(0.5) * 180 / kPi}, 1e-12},
-        {"Arg(1j)", kArg, {0, 1}, {90, 0}, 0},
-        {"Sin(90j)", kSin, {0, 90}, {0, std::sinh(kPi / 2)}, 1e-14},
-        {"Log(-1) stays in radians", kLog, {-1, 0}, {0, 3.14159265358979}, 0},
-        {"Exp(1j) stays in radians", kExp, {0, 1}, {std::cos(1.0), std::sin(1.0)}, 1e-15}};
+        {"Sin(90)", Sin, {90, 0}, {1, 0}, 0},
+        {"Cos(60)", Cos, {60, 0}, {0.5, 0}, 1e-14},
+        {"Atan(1)", Atan, {1, 0}, {45, 0}, 1e-12},
+        {"Atan(0.5j)", Atan, {0, 0.5}, {0, std::atanh(0.5) * 180 / kPi}, 1e-12},
+        {"Arg(1j)", Arg, {0, 1}, {90, 0}, 0},
+        {"Sin(90j)", Sin, {0, 90}, {0, std::sinh(kPi / 2)}, 1e-14},
+        {"Log(-1) stays in radians", Log, {-1, 0}, {0, 3.14159265358979}, 0},
+        {"Exp(1j) stays in radians", Exp, {0, 1}, {std::cos(1.0), std::sin(1.0)}, 1e-15}};
     for (const Row& row : rows) {
         Complex result;
         const std::vector<Complex> args{row.arg};
@@ -160,18 +162,17 @@ TEST(ScalarFunctionsInDegrees, TakeAndGiveDegrees) {
 TEST(ScalarFunctionsInDegrees, ShowTheCommonAnglesExactly) {
     const AngleUnitScope degrees(kDegreeUnit);
     const struct {
-        std::int16_t code;
+        ScalarCode code;
         Complex arg;
         const char* shown;
-    } rows[] = {{kCos, {60, 0}, "0.5"}, {kTan, {45, 0}, "1"},   {kSin, {30, 0}, "0.5"},
-                {kArg, {0, 1}, "90"},   {kArg, {-1, 0}, "180"}, {kArg, {-1, 1}, "135"},
-                {kArg, {0, -1}, "-90"}, {kAtan, {1, 0}, "45"}};
+    } rows[] = {{Cos, {60, 0}, "0.5"}, {Tan, {45, 0}, "1"},   {Sin, {30, 0}, "0.5"},
+                {Arg, {0, 1}, "90"},   {Arg, {-1, 0}, "180"}, {Arg, {-1, 1}, "135"},
+                {Arg, {0, -1}, "-90"}, {Atan, {1, 0}, "45"}};
     for (const auto& row : rows) {
         Complex result;
         const std::vector<Complex> args{row.arg};
         ASSERT_TRUE(CallScalarFunction(row.code, args, result)) << row.code;
-        EXPECT_EQ(ComplexToText(result, false), row.shown)
-            << "code " << row.code << " of " << row.arg;
+        EXPECT_EQ(ComplexToText(result, false), row.shown) << row.code << " of " << row.arg;
     }
 }
 
