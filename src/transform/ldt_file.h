@@ -34,17 +34,17 @@ struct ImportAnswers {
 // each ending in CR LF.
 std::string WriteResultText(const TransformDriver& driver);
 
-// The whole data file text: the result text, then, when DataSourceLb reads
-// "Math", two empty lines, the title "変換関数作成プログラムリスト" and the
+// The whole data file text: the result text, then, when a program made the
+// data, two empty lines, the title "変換関数作成プログラムリスト" and the
 // program text with CR LF line breaks.
 std::string TransformFileText(const TransformDriver& driver, std::string_view programText);
 
 // A file holds a y column only when it is the result of the samples and
-// parameters beside it: without a valid result ("OK") nothing is saved.
+// parameters beside it: without a valid result nothing is saved.
 Outcome CanWriteTransformFile(const TransformDriver& driver);
 
-// Saves the result text, and the program list when DataSourceLb reads
-// "Math", to a file (cp932, CR LF, replaced only when the whole file was
+// Saves the result text, and the program list when a program made the
+// data, to a file (cp932, CR LF, replaced only when the whole file was
 // written), or refuses when CanWriteTransformFile does. programText is the calculator's program;
 // its line breaks are written as CR LF.
 Outcome WriteTransformFile(TransformDriver& driver, const std::filesystem::path& path,

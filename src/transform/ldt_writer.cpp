@@ -12,18 +12,6 @@ namespace {
 constexpr std::string_view kCrLf = "\r\n";
 constexpr std::string_view kProgramListTitle = "変換関数作成プログラムリスト";
 
-char AsciiLower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool SameTextNoCase(std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) return false;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        if (AsciiLower(a[i]) != AsciiLower(b[i])) return false;
-    }
-    return true;
-}
-
 // Every line break of the text (CR LF, LF or a lone CR) as CR LF.
 std::string WithCrLf(std::string_view text) {
     std::string out;
@@ -61,7 +49,7 @@ std::string WriteResultText(const TransformDriver& driver) {
 
 std::string TransformFileText(const TransformDriver& driver, std::string_view programText) {
     std::string text = WriteResultText(driver);
-    if (SameTextNoCase(driver.DataSourceLb(), kLabelMath)) {
+    if (driver.Source() == DataSource::Program) {
         text.append(kCrLf).append(kCrLf).append(kProgramListTitle).append(kCrLf);
         text.append(WithCrLf(programText)).append(kCrLf);
     }
@@ -69,7 +57,7 @@ std::string TransformFileText(const TransformDriver& driver, std::string_view pr
 }
 
 Outcome CanWriteTransformFile(const TransformDriver& driver) {
-    if (driver.ResultLb() == kLabelOk) return Outcome::Success();
+    if (driver.HasResult()) return Outcome::Success();
     return Outcome::Failure(
         "今の N, T, γ0 とデータに合う逆変換結果が無いので保存しません（実行又は逆変換の後に保存"
         "してください）");

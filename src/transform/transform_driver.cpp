@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdio>
 #include <exception>
+#include <optional>
 #include <string>
 
 #include "values/fault.h"
@@ -22,18 +23,17 @@ double Pi() {
 // Entries of the cosine table before the first build.
 constexpr int kInitialCosTableSize = 1024;
 
-// Parses an entry for T or gamma0: a number greater than 0, as label text.
-bool PositiveNumberText(std::string_view text, std::string& label) {
-    double x = 0.0;
-    if (!TextToReal(text, x) || !(x > 0.0)) return false;
-    label = DoubleToText(x);
-    return true;
+// A parameter as the window shows it: the value its 15-digit text reads
+// back as; nothing for a value that is not a number greater than 0.
+std::optional<double> ShownPositive(double x) {
+    if (!(x > 0.0)) return std::nullopt;
+    return DoubleThroughText(x);
 }
 
-double LabelNumber(const std::string& label) {
+std::optional<double> PositiveEntry(std::string_view text) {
     double x = 0.0;
-    TextToReal(label, x);
-    return x;
+    if (!TextToReal(text, x)) return std::nullopt;
+    return ShownPositive(x);
 }
 
 // A number for a reason text: six significant digits are enough to find it.
@@ -73,7 +73,9 @@ double Conditions::DeltaOmega() const {
 
 TransformDriver::TransformDriver() {
     block_.CosTable.resize(kInitialCosTableSize);
-    ReadConditions();
+    SetWord(256);
+    conditions_.T = 5.0;
+    conditions_.Gamma0 = 5.0;
 }
 
 void TransformDriver::SetStatus(std::string_view text) const {
@@ -81,15 +83,19 @@ void TransformDriver::SetStatus(std::string_view text) const {
 }
 
 void TransformDriver::MarkDataInvalid() {
-    resultLb_ = kLabelNon;
-    dataSourceLb_ = kLabelNon;
+    hasResult_ = false;
+    source_ = DataSource::None;
 }
 
-bool TransformDriver::SetWordNumber(std::string_view text) {
-    if (std::find(kWrdList.begin(), kWrdList.end(), text) == kWrdList.end()) return false;
-    if (wordNumberLb_ != text) MarkDataInvalid();
-    wordNumberLb_ = text;
-    ReadConditions();
+void TransformDriver::SetWord(int n) {
+    conditions_.N = static_cast<std::int16_t>(n);
+    conditions_.NPos = static_cast<std::int16_t>(n / 2);
+}
+
+bool TransformDriver::SetN(int n) {
+    if (std::find(kWordNumbers.begin(), kWordNumbers.end(), n) == kWordNumbers.end()) return false;
+    if (conditions_.N != n) MarkDataInvalid();
+    SetWord(n);
     return true;
 }
 
@@ -98,40 +104,45 @@ void TransformDriver::SetHaning(bool on) {
     haningOn_ = on;
 }
 
-bool TransformDriver::SetTend(std::string_view text) {
-    std::string label;
-    if (!PositiveNumberText(text, label)) return false;
-    if (tendLb_ != label) MarkDataInvalid();
-    tendLb_ = label;
-    ReadConditions();
+bool TransformDriver::SetT(double t) {
+    const std::optional<double> shown = ShownPositive(t);
+    if (!shown) return false;
+    if (conditions_.T != *shown) MarkDataInvalid();
+    conditions_.T = *shown;
     return true;
+}
+
+bool TransformDriver::SetGamma0(double gamma0) {
+    const std::optional<double> shown = ShownPositive(gamma0);
+    if (!shown) return false;
+    if (conditions_.Gamma0 != *shown) MarkDataInvalid();
+    conditions_.Gamma0 = *shown;
+    return true;
+}
+
+bool TransformDriver::SetWordNumber(std::string_view text) {
+    const auto match = [text](int n) { return std::to_string(n) == text; };
+    const auto found = std::find_if(kWordNumbers.begin(), kWordNumbers.end(), match);
+    return found != kWordNumbers.end() && SetN(*found);
+}
+
+bool TransformDriver::SetTend(std::string_view text) {
+    const std::optional<double> t = PositiveEntry(text);
+    return t && SetT(*t);
 }
 
 bool TransformDriver::SetGanma(std::string_view text) {
-    std::string label;
-    if (!PositiveNumberText(text, label)) return false;
-    if (ganmaLb_ != label) MarkDataInvalid();
-    ganmaLb_ = label;
-    ReadConditions();
-    return true;
-}
-
-// The labels are the parameters; their numbers are read once per change
-// rather than at every sample.
-void TransformDriver::ReadConditions() {
-    conditions_.N = static_cast<std::int16_t>(std::stoi(wordNumberLb_));
-    conditions_.NPos = static_cast<std::int16_t>(conditions_.N / 2);
-    conditions_.T = LabelNumber(tendLb_);
-    conditions_.Gamma0 = LabelNumber(ganmaLb_);
+    const std::optional<double> gamma0 = PositiveEntry(text);
+    return gamma0 && SetGamma0(*gamma0);
 }
 
 bool TransformDriver::BuildCosTable() {
     const int n = GetConditions().N;
-    if (n == 0 || cosinTableLb_ == std::to_string(n)) return false;
+    if (n == 0 || cosTableN_ == n) return false;
     block_.CosTable.resize(n / 2 + 1);
     for (int k = 0; k <= n / 2; ++k)
         block_.CosTable[k] = std::cos(k * 2.0 * Pi() / n);
-    cosinTableLb_ = std::to_string(n);
+    cosTableN_ = n;
     return true;
 }
 
@@ -146,7 +157,7 @@ double TransformDriver::HanningWeight(int k) const {
     return (std::cos(k * c) + 1.0) * 0.5;
 }
 
-// The labels read "Non" before the status is shown, so the window never
+// The data and result are dropped before the status is shown, so the window never
 // shows the old states beside "データ作成中".
 void TransformDriver::BeginDataCreation() {
     MarkDataInvalid();
@@ -190,7 +201,7 @@ Outcome TransformDriver::StoreSample(int k, const Complex& value) {
 
 Outcome TransformDriver::FinishDataCreation() {
     SetStatus("データ作成成功");
-    dataSourceLb_ = kLabelMath;
+    source_ = DataSource::Program;
     const int n = GetConditions().N;
     store_.GetMaxValue(kSampleRe, n);
     store_.GetMaxValue(kSampleIm, n);
@@ -233,28 +244,27 @@ Outcome TransformDriver::Invert() {
     try {
         IfftToReal(output_, block_);
     } catch (const RuntimeFault& fault) {
-        resultLb_ = kLabelNon;
+        hasResult_ = false;
         SetStatus("");
         return Outcome::Failure(InversionFailure(fault, block_, c));
     }
     std::copy_n(output_.begin(), c.N, store_[kResult].Values.begin());
     store_.GetMaxValue(kResult, static_cast<int>(std::nearbyint(kReliableFraction * c.N)));
     SetStatus("逆変換終了");
-    resultLb_ = kLabelOk;
+    hasResult_ = true;
     SetStatus("");
     return Outcome::Success();
 }
 
 void TransformDriver::LoadFileData(std::int16_t n, double t, double gamma0,
                                    std::span<const double> re, std::span<const double> im) {
-    wordNumberLb_ = std::to_string(n);
-    tendLb_ = DoubleToText(t);
-    ganmaLb_ = DoubleToText(gamma0);
-    ReadConditions();
+    SetWord(n);
+    conditions_.T = ShownPositive(t).value_or(conditions_.T);
+    conditions_.Gamma0 = ShownPositive(gamma0).value_or(conditions_.Gamma0);
     std::copy_n(re.begin(), n, store_[kSampleRe].Values.begin());
     std::copy_n(im.begin(), n, store_[kSampleIm].Values.begin());
-    resultLb_ = kLabelNon;
-    dataSourceLb_ = kLabelFile;
+    hasResult_ = false;
+    source_ = DataSource::File;
     store_.GetMaxValue(kSampleRe, n);
     store_.GetMaxValue(kSampleIm, n);
 }

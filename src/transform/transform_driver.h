@@ -23,17 +23,14 @@ namespace lapdesk {
 // accuracy features trust; its end carries the FFT's wrap-around.
 inline constexpr double kReliableFraction = 0.8;
 
-// Texts of the state labels.
-inline constexpr std::string_view kLabelNon = "Non";
-inline constexpr std::string_view kLabelMath = "Math";
-inline constexpr std::string_view kLabelFile = "File";
-inline constexpr std::string_view kLabelOk = "OK";
+// Where the present samples came from: none (or no longer valid), a
+// program or F(s) run point by point, or a data file.
+enum class DataSource : std::uint8_t { None, Program, File };
 
-// The choices of N offered in WrdList.
-inline constexpr std::array<std::string_view, 6> kWrdList = {"128",  "256",  "512",
-                                                             "1024", "2048", "4096"};
+// The choices of N.
+inline constexpr std::array<int, 6> kWordNumbers = {128, 256, 512, 1024, 2048, 4096};
 
-// The parameters as read from the labels, with the values derived from them.
+// The parameters, with the values derived from them.
 struct Conditions {
     std::int16_t N = 0;
     std::int16_t NPos = 0;  // N/2: samples are taken for k = 0..NPos
@@ -50,35 +47,38 @@ class TransformDriver {
   public:
     using StatusSink = std::function<void(std::string_view)>;
 
-    // N "256", T "5", gamma0 "5", Hanning on, no data and no result.
+    // N 256, T 5, gamma0 5, Hanning on, no data and no result.
     TransformDriver();
 
     // Progress texts go to the sink (the window's status label).
     void SetStatusSink(StatusSink sink) { status_ = std::move(sink); }
     void SetStatus(std::string_view text) const;
 
-    // Parameter entry. N must be one of kWrdList; T and gamma0 must be numbers
-    // greater than 0. A rejected text changes nothing and returns false. A new
-    // value sets ResultLb and DataSourceLb to "Non": data made for other
-    // parameters are no longer valid. So does turning the Hanning taper on or
-    // off: the samples were tapered, or not, when they were made.
+    // Parameter entry. N must be one of kWordNumbers; T and gamma0 must be
+    // numbers greater than 0, and are taken as the 15 significant digits the
+    // window shows of them. A rejected value changes nothing and returns
+    // false. A new value drops the data and the result: data made for other
+    // parameters are no longer valid. So does turning the Hanning taper on
+    // or off: the samples were tapered, or not, when they were made.
+    bool SetN(int n);
+    bool SetT(double t);
+    bool SetGamma0(double gamma0);
+    void SetHaning(bool on);
+    // The same from the text of an entry field or an option.
     bool SetWordNumber(std::string_view text);
     bool SetTend(std::string_view text);
     bool SetGanma(std::string_view text);
-    void SetHaning(bool on);
 
-    const std::string& WordNumberLb() const { return wordNumberLb_; }
-    const std::string& TendLb() const { return tendLb_; }
-    const std::string& Ganmalb() const { return ganmaLb_; }
-    const std::string& CosinTableLb() const { return cosinTableLb_; }
-    const std::string& DataSourceLb() const { return dataSourceLb_; }
-    const std::string& ResultLb() const { return resultLb_; }
+    DataSource Source() const { return source_; }
+    bool HasData() const { return source_ != DataSource::None; }
+    bool HasResult() const { return hasResult_; }
+    int CosTableN() const { return cosTableN_; }  // 0 before the first build
     bool HaningOn() const { return haningOn_; }
 
     const Conditions& GetConditions() const { return conditions_; }
 
-    // Rebuilds the cosine table only when N differs from CosinTableLb;
-    // returns whether it did.
+    // Rebuilds the cosine table only when N differs from the one it was
+    // built for; returns whether it did.
     bool BuildCosTable();
 
     const SampleStore& Store() const { return store_; }
@@ -95,7 +95,7 @@ class TransformDriver {
     double HanningWeight(int k) const;
     void BeginDataCreation();
     Outcome StoreSample(int k, const Complex& value);
-    // Marks the data as made by a program ("Math") and runs the inversion.
+    // Marks the data as made by a program and runs the inversion.
     Outcome FinishDataCreation();
     // The whole loop for a callable F(s); an exception from F stops it.
     Outcome MakeData(const std::function<Complex(const Complex&)>& f);
@@ -103,24 +103,21 @@ class TransformDriver {
     // Inverts the present samples into the result series (kind 2).
     Outcome Invert();
 
-    // Takes samples read from a file: sets the parameter labels, stores
-    // re/im in kinds 0 and 1 and marks the source "File". n must be one of
-    // kWrdList, t and gamma0 greater than 0, and re and im hold n values.
+    // Takes samples read from a file: sets the parameters, stores re/im in
+    // kinds 0 and 1 and marks the source as a file. n must be one of
+    // kWordNumbers, t and gamma0 greater than 0, and re and im hold n values.
     void LoadFileData(std::int16_t n, double t, double gamma0, std::span<const double> re,
                       std::span<const double> im);
 
   private:
     void MarkDataInvalid();
-    void ReadConditions();
+    void SetWord(int n);
 
     StatusSink status_;
-    std::string wordNumberLb_ = "256";
-    std::string tendLb_ = "5";
-    std::string ganmaLb_ = "5";
-    Conditions conditions_;  // the numbers of the three labels above
-    std::string cosinTableLb_ = "0";
-    std::string dataSourceLb_{kLabelNon};
-    std::string resultLb_{kLabelNon};
+    Conditions conditions_;
+    int cosTableN_ = 0;
+    DataSource source_ = DataSource::None;
+    bool hasResult_ = false;
     bool haningOn_ = true;
     TransformBlock block_;
     SampleStore store_;

@@ -36,7 +36,7 @@ TransformDriver MadeDriver() {
 
 TEST(ResultText, HasTheFixedLayout) {
     const TransformDriver driver = MadeDriver();
-    ASSERT_EQ(driver.ResultLb(), "OK");
+    ASSERT_TRUE(driver.HasResult());
     const std::string text = WriteResultText(driver);
     const Strings lines = SplitLines(text);
     ASSERT_EQ(lines.size(), 131u);
@@ -79,7 +79,7 @@ TEST(TransformFile, FileDataHaveNoProgramList) {
     ASSERT_TRUE(WriteTransformFile(first, folder / "a.Ldt", "F = 1").ok);
     TransformDriver second;
     ASSERT_TRUE(ReadLapData(second, folder / "a.Ldt", {}).ok);
-    ASSERT_EQ(second.DataSourceLb(), "File");
+    ASSERT_EQ(second.Source(), DataSource::File);
     ASSERT_TRUE(WriteTransformFile(second, folder / "b.Ldt", "F = 1").ok);
     EXPECT_EQ(SplitLines(ReadBytes(folder / "b.Ldt")).size(), 131u);
 }
@@ -121,11 +121,11 @@ TEST(ReadLapData, ReadsBackWhatWasWrittenToThePrintedPrecision) {
     ASSERT_TRUE(read.ok) << read.reason;
     EXPECT_EQ(log.texts, (Strings{"", "データ読込み開始", "データ読込み成功", "逆ラプラス変換中",
                                   "逆ＦＦＴ", "逆変換終了", ""}));
-    EXPECT_EQ(reader.WordNumberLb(), "128");
-    EXPECT_EQ(reader.TendLb(), "5");
-    EXPECT_EQ(reader.Ganmalb(), "5");
-    EXPECT_EQ(reader.DataSourceLb(), "File");
-    EXPECT_EQ(reader.ResultLb(), "OK");
+    EXPECT_EQ(reader.GetConditions().N, 128);
+    EXPECT_EQ(reader.GetConditions().T, 5);
+    EXPECT_EQ(reader.GetConditions().Gamma0, 5);
+    EXPECT_EQ(reader.Source(), DataSource::File);
+    EXPECT_TRUE(reader.HasResult());
     for (const int kind : {kSampleRe, kSampleIm}) {
         for (int k = 0; k < 128; ++k) {
             const double written = original.Store()[kind].Values[k];
@@ -148,7 +148,7 @@ TEST(ReadLapData, ReadsOtherTablesThroughTheAnswers) {
     TransformDriver driver;
     const Outcome read = ReadLapData(driver, folder / "t.txt", {2, 4, 2, " "});
     ASSERT_TRUE(read.ok) << read.reason;
-    EXPECT_EQ(driver.Ganmalb(), "2.5");
+    EXPECT_EQ(driver.GetConditions().Gamma0, 2.5);
     EXPECT_EQ(driver.Store()[kSampleRe].Values[0], 1.0);
     EXPECT_EQ(driver.Store()[kSampleIm].Values[127], -127.0);
 
@@ -221,11 +221,11 @@ TEST_P(ReadFailures, LeaveTheDriverAsItWas) {
     EXPECT_FALSE(read.ok);
     EXPECT_NE(read.reason.find(row.reasonPart), std::string::npos) << read.reason;
     EXPECT_EQ(log.texts.back(), "データ読込み失敗");
-    EXPECT_EQ(driver.WordNumberLb(), "256");
-    EXPECT_EQ(driver.TendLb(), "5");
-    EXPECT_EQ(driver.Ganmalb(), "5");
-    EXPECT_EQ(driver.DataSourceLb(), "Math");
-    EXPECT_EQ(driver.ResultLb(), "OK");
+    EXPECT_EQ(driver.GetConditions().N, 256);
+    EXPECT_EQ(driver.GetConditions().T, 5);
+    EXPECT_EQ(driver.GetConditions().Gamma0, 5);
+    EXPECT_EQ(driver.Source(), DataSource::Program);
+    EXPECT_TRUE(driver.HasResult());
     for (int kind = 0; kind < 5; ++kind) {
         EXPECT_EQ(driver.Store()[kind].Values, before[kind].Values) << kind;
         EXPECT_EQ(driver.Store()[kind].MaxValue, before[kind].MaxValue) << kind;
@@ -299,7 +299,7 @@ INSTANTIATE_TEST_SUITE_P(
                    "\r\n",
                    {},
                    "ファイルは 1 行しかなく、パラメータ行（2 行目）がありません"}),
-    [](const auto& info) { return std::string(info.param.name); });
+    RowName());
 
 }  // namespace
 }  // namespace lapdesk

@@ -1,4 +1,5 @@
 #include "transform/transform_driver.h"
+#include "values/number_text.h"
 
 #include <gtest/gtest.h>
 
@@ -34,9 +35,12 @@ TEST(ParameterEntry, AcceptsOnlyValidTexts) {
     const auto n = [](TransformDriver& d, std::string_view t) { return d.SetWordNumber(t); };
     const auto t = [](TransformDriver& d, std::string_view s) { return d.SetTend(s); };
     const auto g = [](TransformDriver& d, std::string_view s) { return d.SetGanma(s); };
-    const auto nLb = [](const TransformDriver& d) { return d.WordNumberLb(); };
-    const auto tLb = [](const TransformDriver& d) { return d.TendLb(); };
-    const auto gLb = [](const TransformDriver& d) { return d.Ganmalb(); };
+    // What the labels show: N, and T and gamma0 to 15 digits.
+    const auto nLb = [](const TransformDriver& d) { return std::to_string(d.GetConditions().N); };
+    const auto tLb = [](const TransformDriver& d) { return DoubleToText(d.GetConditions().T); };
+    const auto gLb = [](const TransformDriver& d) {
+        return DoubleToText(d.GetConditions().Gamma0);
+    };
     const std::vector<Row> rows = {
         {n, nLb, "128", true, "128"},   {n, nLb, "4096", true, "4096"},
         {n, nLb, "8192", false, "256"}, {n, nLb, "300", false, "256"},
@@ -72,8 +76,9 @@ TEST(ParameterEntry, OnlyANewValueInvalidatesDataAndResult) {
         TransformDriver driver;
         ASSERT_TRUE(driver.MakeData(OneOverSPlusOne).ok);
         row.change(driver);
-        EXPECT_EQ(driver.DataSourceLb(), row.invalidates ? "Non" : "Math") << row.name;
-        EXPECT_EQ(driver.ResultLb(), row.invalidates ? "Non" : "OK") << row.name;
+        EXPECT_EQ(driver.Source(), row.invalidates ? DataSource::None : DataSource::Program)
+            << row.name;
+        EXPECT_EQ(driver.HasResult(), !row.invalidates) << row.name;
     }
 }
 
@@ -152,8 +157,7 @@ TEST_P(AnalyticInversion, MatchesTheTimeFunctionOverTheFirstEightyPercent) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Pairs, AnalyticInversion, testing::ValuesIn(kPairs),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Pairs, AnalyticInversion, testing::ValuesIn(kPairs), RowName());
 
 TEST(Inversion, AJumpAtZeroGivesItsMidpoint) {
     TransformDriver driver;
@@ -177,14 +181,14 @@ TEST(Inversion, ReportsItsPhasesInOrder) {
 TEST(Inversion, RepeatsBitForBitAndRebuildsTheTableOnlyForANewN) {
     TransformDriver driver;
     ASSERT_TRUE(driver.MakeData(OneOverSPlusOne).ok);
-    EXPECT_EQ(driver.CosinTableLb(), "256");
+    EXPECT_EQ(driver.CosTableN(), 256);
     const std::vector<double> first = driver.Store()[kResult].Values;
     EXPECT_FALSE(driver.BuildCosTable());
     ASSERT_TRUE(driver.Invert().ok);
     EXPECT_EQ(driver.Store()[kResult].Values, first);
     ASSERT_TRUE(driver.SetWordNumber("2048"));
     EXPECT_TRUE(driver.BuildCosTable());
-    EXPECT_EQ(driver.CosinTableLb(), "2048");
+    EXPECT_EQ(driver.CosTableN(), 2048);
     EXPECT_EQ(driver.Block().CosTable.size(), 1025u);
 }
 
@@ -207,7 +211,7 @@ TEST(Inversion, OverflowFailsCleanlyAndKeepsTheLastResult) {
     const Outcome outcome = driver.MakeData(OneOverSPlusOne);
     EXPECT_FALSE(outcome.ok);
     EXPECT_NE(outcome.reason.find("k = 182 (t = 3.55469)"), std::string::npos) << outcome.reason;
-    EXPECT_EQ(driver.ResultLb(), "Non");
+    EXPECT_FALSE(driver.HasResult());
     EXPECT_EQ(driver.Store()[kResult].Values, before);
     EXPECT_EQ(log.texts.back(), "");
 }
@@ -225,8 +229,8 @@ TEST(DataCreation, AFailingFunctionStopsTheLoop) {
     EXPECT_FALSE(outcome.ok);
     EXPECT_NE(outcome.reason.find("k = 10"), std::string::npos) << outcome.reason;
     EXPECT_EQ(log.texts, (Strings{"データ作成中", "数値計算実行時エラー"}));
-    EXPECT_EQ(driver.DataSourceLb(), "Non");
-    EXPECT_EQ(driver.ResultLb(), "Non");
+    EXPECT_EQ(driver.Source(), DataSource::None);
+    EXPECT_FALSE(driver.HasResult());
     EXPECT_NE(driver.Store()[kSampleRe].Values[9], 0.0);  // points made so far stay
     EXPECT_NE(driver.Store()[kSampleRe].Values[256 - 9], 0.0);
     EXPECT_EQ(driver.Store()[kSampleRe].Values[10], 0.0);

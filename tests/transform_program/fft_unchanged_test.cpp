@@ -56,8 +56,8 @@ TEST_P(FftUnchanged, ByTheAccuracyFeatures) {
     EXPECT_EQ(WriteResultText(plain.driver), WriteResultText(checked.driver));
     EXPECT_EQ(TransformFileText(plain.driver, program), TransformFileText(checked.driver, program));
     EXPECT_EQ(plain.log.texts, checked.log.texts);
-    EXPECT_EQ(plain.driver.ResultLb(), checked.driver.ResultLb());
-    EXPECT_EQ(plain.driver.DataSourceLb(), checked.driver.DataSourceLb());
+    EXPECT_EQ(plain.driver.HasResult(), checked.driver.HasResult());
+    EXPECT_EQ(plain.driver.Source(), checked.driver.Source());
     // p is left as the data loop left it.
     EXPECT_EQ(plain.session.ImmediateLine("p").value, checked.session.ImmediateLine("p").value);
 }
@@ -65,7 +65,8 @@ TEST_P(FftUnchanged, ByTheAccuracyFeatures) {
 INSTANTIATE_TEST_SUITE_P(Programs, FftUnchanged,
                          testing::Values(Row{"first_order", "Return 1/(p+1)\r\nEnd"},
                                          Row{"pole_right_of_the_line", "Return 1/(p-2)\r\nEnd"},
-                                         Row{"fast_sine", "Return 1/(p^2+100)\r\nEnd"}));
+                                         Row{"fast_sine", "Return 1/(p^2+100)\r\nEnd"}),
+                         RowName());
 
 }  // namespace
 }  // namespace lapdesk

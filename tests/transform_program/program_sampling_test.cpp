@@ -107,8 +107,8 @@ TEST(ProgramSampling, RunsTheProgramOncePerPointAndInverts) {
     ASSERT_TRUE(last.RunProgram(re, im, false, true));
     EXPECT_EQ(s.view.kai, lastView.kai);
     EXPECT_TRUE(lastView.kai.starts_with("Result=0.0"));
-    EXPECT_EQ(s.driver.DataSourceLb(), "Math");
-    EXPECT_EQ(s.driver.ResultLb(), "OK");
+    EXPECT_EQ(s.driver.Source(), DataSource::Program);
+    EXPECT_TRUE(s.driver.HasResult());
     ASSERT_GE(s.log.texts.size(), 2u);
     EXPECT_EQ(s.log.texts.front(), "データ作成中");
     EXPECT_NE(std::find(s.log.texts.begin(), s.log.texts.end(), "データ作成成功"),
@@ -141,8 +141,8 @@ TEST(ProgramSampling, ARunErrorStopsTheLoopAndKeepsWhatWasMade) {
     Session s("If Image(p) > 10*2*π/5 - 0.1 Then\r\nReturn 1/0\r\nEnd If\r\nReturn 1\r\nEnd");
     EXPECT_FALSE(TesmorDataSet(s.driver, s.interpreter));
     EXPECT_EQ(s.log.texts.back(), "数値計算実行時エラー");
-    EXPECT_EQ(s.driver.DataSourceLb(), "Non");
-    EXPECT_EQ(s.driver.ResultLb(), "Non");
+    EXPECT_EQ(s.driver.Source(), DataSource::None);
+    EXPECT_FALSE(s.driver.HasResult());
     EXPECT_NE(s.driver.Store()[kSampleRe].Values[9], 0.0);
     EXPECT_EQ(s.driver.Store()[kSampleRe].Values[128 - 9], s.driver.Store()[kSampleRe].Values[9]);
     EXPECT_FALSE(s.view.messages.empty());  // the run reported its fault
@@ -156,7 +156,7 @@ TEST(ProgramSampling, AStopRequestEndsTheLoopWithoutAnError) {
     EXPECT_LE(s.view.runs, 6);
     EXPECT_FALSE(s.view.stopRequested);  // honoured and cleared
     EXPECT_TRUE(s.view.messages.empty());
-    EXPECT_EQ(s.driver.DataSourceLb(), "Non");
+    EXPECT_EQ(s.driver.Source(), DataSource::None);
 }
 
 TEST(ProgramSampling, AProgramThatDoesNotAnalyseMakesNoData) {

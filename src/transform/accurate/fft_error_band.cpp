@@ -16,9 +16,9 @@ namespace {
 class ExtraRun {
   public:
     ExtraRun(const TransformDriver& base, int n, double gamma0) {
-        driver_.SetWordNumber(std::to_string(n));
-        driver_.SetTend(base.TendLb());
-        driver_.SetGanma(DoubleToText(gamma0));
+        driver_.SetN(n);
+        driver_.SetT(base.GetConditions().T);
+        driver_.SetGamma0(gamma0);
         driver_.SetHaning(base.HaningOn());
     }
 

@@ -49,8 +49,8 @@ Measured Measure(const TransformDriver& driver, const LaplaceFunction& f) {
 // Makes the data at N and gamma0 (T unchanged) and inverts them.
 Outcome MakeRun(TransformDriver& driver, const LaplaceFunction& f, const LineValues& known, int n,
                 double gamma0, FftChoice& choice) {
-    driver.SetWordNumber(std::to_string(n));
-    driver.SetGanma(DoubleToText(gamma0));
+    driver.SetN(n);
+    driver.SetGamma0(gamma0);
     return MakeFftRun(driver, f, known, choice.evaluations, choice.stopped);
 }
 
@@ -104,7 +104,7 @@ FftChoice ChooseFftParameters(TransformDriver& driver, const LaplaceFunction& f,
         NextParameters(best, tol, order, nextN, nextGamma0);
         if (nextN == n && nextGamma0 == gamma0) break;  // nothing left to raise
         TransformDriver trial;
-        trial.SetTend(driver.TendLb());
+        trial.SetT(driver.GetConditions().T);
         trial.SetHaning(driver.HaningOn());
         const Outcome made = MakeRun(trial, f, {}, nextN, nextGamma0, choice);
         if (!made.ok) {

@@ -25,6 +25,7 @@
 #include "transform/window/accuracy/accuracy_view.h"
 #include "transform/window/draggable_frame.h"
 #include "transform/window/plot/scrn_plot.h"
+#include "transform/window/state_captions.h"
 #include "transform/window/window_placement.h"
 
 namespace lapdesk {
@@ -170,14 +171,15 @@ void TesmorForm::ShowFailure(const std::string& reason) {
 // commands that need data or a result (the accuracy data, also a finished
 // run).
 void TesmorForm::ShowStateLabels() {
-    wordNumberLb_->setText(FromStd(driver_.WordNumberLb()));
-    tendLb_->setText(FromStd(driver_.TendLb()));
-    ganmalb_->setText(FromStd(driver_.Ganmalb()));
-    cosinTableLb_->setText(FromStd(driver_.CosinTableLb()));
-    const bool data = driver_.DataSourceLb() != kLabelNon;
-    const bool result = driver_.ResultLb() == kLabelOk;
-    ShowState(dataSourceLb_, driver_.DataSourceLb(), data);
-    ShowState(resultLb_, driver_.ResultLb(), result);
+    const Conditions& c = driver_.GetConditions();
+    wordNumberLb_->setText(FromStd(NCaption(c)));
+    tendLb_->setText(FromStd(TCaption(c)));
+    ganmalb_->setText(FromStd(Gamma0Caption(c)));
+    cosinTableLb_->setText(FromStd(CosTableCaption(driver_)));
+    const bool data = driver_.HasData();
+    const bool result = driver_.HasResult();
+    ShowState(dataSourceLb_, std::string(DataSourceCaption(driver_.Source())), data);
+    ShowState(resultLb_, std::string(ResultCaption(result)), result);
     buttonExeTesmor_->setEnabled(data);
     buttonResultWrite_->setEnabled(data);
     buttonDrawResult_->setEnabled(result);
@@ -190,8 +192,8 @@ void TesmorForm::ShowStateLabels() {
 // present data and parameters: a failed or started run, a new N, T or gamma0
 // take away the result drawn for the old ones.
 void TesmorForm::DropStaleDrawing() {
-    const bool data = driver_.DataSourceLb() != kLabelNon;
-    const bool result = driver_.ResultLb() == kLabelOk;
+    const bool data = driver_.HasData();
+    const bool result = driver_.HasResult();
     const PlotView drawn = scrn_->view();
     if ((drawn == PlotView::Result && !result) || (drawn == PlotView::Data && !data)) {
         ButtonClearScreen_Click();
@@ -298,7 +300,7 @@ void TesmorForm::ClearReadout() {
 
 // Without data there is nothing to draw: no zeros that look like F = 0.
 void TesmorForm::ButtonDrawLapData_Click() {
-    if (driver_.DataSourceLb() == kLabelNon) {
+    if (!driver_.HasData()) {
         SetStatus(
             QStringLiteral("表示するデータが有りません（実行又はデータ読込で作成してください）"));
         return;

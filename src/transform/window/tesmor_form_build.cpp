@@ -131,9 +131,8 @@ void TesmorForm::BuildStatusLine() {
 // Load: the defaults, the list of N, the empty plot, the state labels, and
 // the window centred on the screen.
 void TesmorForm::Load() {
-    for (const std::string_view n : kWrdList) {
-        wrdList_->addItem(QString::fromUtf8(n.data(), n.size()));
-    }
+    for (const int n : kWordNumbers)
+        wrdList_->addItem(QString::number(n));
     haningCheck_->setChecked(driver_.HaningOn());
     scrn_->ClearScreen(driver_.GetConditions().T);
     ShowStateLabels();

@@ -115,7 +115,7 @@ bool TesmorForm::ConfirmResultWrite() {
                             "計算したデータと結果を保存しますか"))) {
         return false;
     }
-    const bool programData = driver_.DataSourceLb() == kLabelMath;
+    const bool programData = driver_.Source() == DataSource::Program;
     const QString program = QString::fromStdString(calculator_->interpreter().ProgramText());
     return !programData || program == dataProgram_ ||
            ask(QStringLiteral("プログラムがデータを作った時から変わっています。"

@@ -8,15 +8,17 @@
 #include "transform/accurate/dehoog_inversion.h"
 
 #include "transform/window/plot/scrn_plot.h"
+#include "values/number_text.h"
 
 namespace lapdesk {
 
 namespace {
 
 QString Title(const TransformDriver& driver) {
+    const Conditions& c = driver.GetConditions();
     return QStringLiteral("f(t)    N = %1,  T = %2,  γ0 = %3")
-        .arg(QString::fromStdString(driver.WordNumberLb()), QString::fromStdString(driver.TendLb()),
-             QString::fromStdString(driver.Ganmalb()));
+        .arg(QString::number(c.N), QString::fromStdString(DoubleToText(c.T)),
+             QString::fromStdString(DoubleToText(c.Gamma0)));
 }
 
 bool SaveSvg(ScrnPlot& plot, const QString& path, QSize size) {
