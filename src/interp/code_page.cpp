@@ -35,7 +35,7 @@ void ClsCode::SetPageName(std::string name) {
     pageName_ = std::move(name);
     NamesChanged();
     if (SameWord(pageName_, "Imidate")) {
-        pageIndex_ = -1;
+        pageIndex_ = kImmediatePageIndex;
         session_.RegisterGlobalPage(*this);
         ReseedRandom();
     }
@@ -43,7 +43,7 @@ void ClsCode::SetPageName(std::string name) {
 
 void ClsCode::SetAnalized(bool analized) {
     analized_ = analized;
-    if (pageIndex_ != -1 || analized) return;
+    if (pageIndex_ != kImmediatePageIndex || analized) return;
     for (std::int16_t p = 0; p < session_.PageCount(); ++p)
         session_.Page(p).analized_ = false;
 }

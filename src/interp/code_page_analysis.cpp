@@ -97,7 +97,7 @@ bool ClsCode::APc01CodeAnalize() {
             }
             std::string_view rest;
             if (Classify(lines_[static_cast<std::size_t>(i)], rest) == kw::End) {
-                MarkLine(i, kw::End, -999, -999);
+                MarkLine(i, kw::End, kNoEntry, kNoEntry);
                 analized_ = ok = true;
                 break;
             }
@@ -129,7 +129,7 @@ bool ClsCode::AnalyseLine(std::int16_t& i) {
             if (!SplitTopLevel(rest, ',', items) || !AStateMentDimension(items)) {
                 return Fail(errorText_.empty() ? "Dim文" : errorText_);
             }
-            MarkLine(i, code, -999, -999);
+            MarkLine(i, code, kNoEntry, kNoEntry);
             return true;
         case kw::Global: {
             if (pageIndex_ > 0) return Fail("サブルーチンから大域変数は定義出来ません");
@@ -137,13 +137,13 @@ bool ClsCode::AnalyseLine(std::int16_t& i) {
             if (!SplitTopLevel(rest, ',', items) || !global.AStateMentDimension(items)) {
                 return Fail(global.errorText_.empty() ? "Global文" : global.errorText_);
             }
-            MarkLine(i, code, -999, -999);
+            MarkLine(i, code, kNoEntry, kNoEntry);
             return true;
         }
         case kw::Call: {
             std::int16_t entry = 0;
             if (!AnalyseCall(rest, entry)) return false;
-            MarkLine(i, code, entry, -999);
+            MarkLine(i, code, entry, kNoEntry);
             return true;
         }
         case kw::For:
@@ -168,7 +168,7 @@ bool ClsCode::AnalyseLine(std::int16_t& i) {
         case kw::Return:
         case kw::Function:
         case kw::ExitFunction:
-            MarkLine(i, code, -999, -999);
+            MarkLine(i, code, kNoEntry, kNoEntry);
             return true;
         default:
             break;
@@ -176,12 +176,12 @@ bool ClsCode::AnalyseLine(std::int16_t& i) {
     bool isAssignment = false;
     if (!AnalyseAssignment(text, isAssignment)) return false;
     if (isAssignment) {
-        MarkLine(i, kw::Assignment, Sub16(Count(statements_.size()), 1), -999);
+        MarkLine(i, kw::Assignment, Sub16(Count(statements_.size()), 1), kNoEntry);
         return true;
     }
     std::int16_t entry = 0;
     if (AnalyseCall(text, entry)) {
-        MarkLine(i, kw::BareCall, entry, -999);
+        MarkLine(i, kw::BareCall, entry, kNoEntry);
         return true;
     }
     return Fail("無効なコード");
@@ -208,7 +208,8 @@ bool ClsCode::AnalyseAssignment(std::string_view text, bool& isAssignment) {
         } else if (IsParameter(found.kind)) {
             code.Target = TargetKind::Parameter;
             code.TargetIndex = found.slot;
-        } else if (found.kind == NameKind::None && parsed.subscripts.empty() && pageIndex_ != -1) {
+        } else if (found.kind == NameKind::None && parsed.subscripts.empty() &&
+                   pageIndex_ != kImmediatePageIndex) {
             code.Target = TargetKind::Memory;
             code.TargetIndex = AppendVariable(parsed.name, 0, 0, 0);
         } else {
@@ -250,7 +251,7 @@ bool ClsCode::AnalyseFor(std::int16_t& i, std::string_view rest) {
     const std::int16_t forLine = i;
     const std::int16_t outer = innermostFor_;
     innermostFor_ = entry;
-    MarkLine(i, kw::For, entry, -999);
+    MarkLine(i, kw::For, entry, kNoEntry);
     for (i = Add16(i, 1);; i = Add16(i, 1)) {
         if (EndsPage(i)) {
             errorLine_ = forLine;
@@ -260,7 +261,7 @@ bool ClsCode::AnalyseFor(std::int16_t& i, std::string_view rest) {
         if (Classify(lines_[static_cast<std::size_t>(i)], after) == kw::Next) break;
         if (!AnalyseLine(i)) return false;
     }
-    MarkLine(i, kw::Next, entry, -999);
+    MarkLine(i, kw::Next, entry, kNoEntry);
     fors_[static_cast<std::size_t>(entry)].NextLine = i;
     innermostFor_ = outer;
     return true;
@@ -277,7 +278,7 @@ bool ClsCode::AnalyseDo(std::int16_t& i, std::string_view rest) {
     const std::int16_t doLine = i;
     const std::int16_t outer = innermostDo_;
     innermostDo_ = entry;
-    MarkLine(i, kw::Do, entry, -999);
+    MarkLine(i, kw::Do, entry, kNoEntry);
     std::string_view after;
     for (i = Add16(i, 1);; i = Add16(i, 1)) {
         if (EndsPage(i)) {
@@ -291,7 +292,7 @@ bool ClsCode::AnalyseDo(std::int16_t& i, std::string_view rest) {
     errorLine_ = i;
     if (!ConditionWord(after, done.LoopWord, done.LoopCondition)) return Fail("Loop文");
     done.LoopLine = i;
-    MarkLine(i, kw::Loop, entry, -999);
+    MarkLine(i, kw::Loop, entry, kNoEntry);
     innermostDo_ = outer;
     return true;
 }
@@ -299,7 +300,7 @@ bool ClsCode::AnalyseDo(std::int16_t& i, std::string_view rest) {
 bool ClsCode::AnalyseExit(std::int16_t i, StatementKind code) {
     const std::int16_t innermost = code == kw::ExitFor ? innermostFor_ : innermostDo_;
     if (innermost < 0) return Fail(code == kw::ExitFor ? "Forが無い" : "Doが無い");
-    MarkLine(i, code, innermost, -999);
+    MarkLine(i, code, innermost, kNoEntry);
     return true;
 }
 
@@ -365,7 +366,7 @@ bool ClsCode::AnalyseSelect(std::int16_t& i, std::string_view rest) {
     RequireRoomForOneMore(entry);
     selects_.push_back(std::move(block));
     const std::int16_t selectLine = i;
-    MarkLine(i, kw::Select, entry, -999);
+    MarkLine(i, kw::Select, entry, kNoEntry);
     for (i = Add16(i, 1);; i = Add16(i, 1)) {
         if (EndsPage(i)) {
             errorLine_ = selectLine;

@@ -104,7 +104,7 @@ ClsCode::Found ClsCode::AzIsVariableSearch(std::string_view name) {
         if (SameName(rec.Name, name, cs))
             return {NameKind::Memory, this, k, -1, rec.Typ, rec.NI, rec.NJ, rec.Values[0]};
     }
-    if (pageIndex_ != -1) {
+    if (pageIndex_ != kImmediatePageIndex) {
         for (std::int16_t s = 0; s < NumofArg(); ++s) {
             if (SameName(arguments_[static_cast<std::size_t>(s)].Name, name, cs))
                 return ParameterFound(s);

@@ -60,13 +60,19 @@ enum class ArgumentKind : std::uint8_t {
     Expression,  // any other expression, by value
 };
 
+// A statement's table entry or branch number where it has none.
+inline constexpr std::int16_t kNoEntry = -999;
+
+// The page index of the immediate page, whose memory is the global memory.
+inline constexpr std::int16_t kImmediatePageIndex = -1;
+
 // One stored statement and what analysis found out about it.
 struct CodeLine {
     std::string Text;
     std::int16_t LnNo = 0;                          // entry of the program list to highlight
     StatementKind Kind = StatementKind::NoKeyword;  // NoKeyword until analysed
-    std::int16_t CodeIndex = -999;                  // entry in the table of its kind
-    std::int16_t Link = -999;                       // branch number inside If / Select Case
+    std::int16_t CodeIndex = kNoEntry;              // entry in the table of its kind
+    std::int16_t Link = kNoEntry;                   // branch number inside If / Select Case
 };
 
 // An analysed assignment.
