@@ -154,7 +154,7 @@ INSTANTIATE_TEST_SUITE_P(
                  {1, 2, 1, ","},
                  {DoubtKind::NoParameters, DoubtKind::TooFewNumbers}},
         DoubtRow{"LinesTheFileLacks", {"a", "1,2"}, {2, 4, 1, ","}, {}}),
-    [](const auto& info) { return std::string(info.param.name); });
+    RowName());
 
 // The wizard's own reading of the file it previews.
 TEST(ImportPreview, ReadsTheFileOrSaysWhyNotInJapanese) {

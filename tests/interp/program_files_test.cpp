@@ -134,10 +134,7 @@ TEST_P(ProgramFiles, ShowWhatTheyExpect) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Programs, ProgramFiles, ::testing::ValuesIn(AllPrograms()),
-                         [](const ::testing::TestParamInfo<ProgramFile>& info) {
-                             return info.param.name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Programs, ProgramFiles, ::testing::ValuesIn(AllPrograms()), RowName());
 
 }  // namespace
 }  // namespace lapdesk

@@ -89,7 +89,7 @@ INSTANTIATE_TEST_SUITE_P(Robustness, DeepBlocks,
                                            BlockRow{"For", "For i = 1 To 1", "Next"},
                                            BlockRow{"Select", "Select Case 1\r\nCase 1",
                                                     "End Select"}),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         RowName());
 
 TEST(ManyStatements, BeyondTheLineCountFailCleanly) {
     std::string text;
@@ -155,7 +155,7 @@ INSTANTIATE_TEST_SUITE_P(
         BytesRow{"InsideACondition", "If \xff > 1 Then\r\nEnd If\r\nEnd",
                  "End of Analize Page Number=1"},
         BytesRow{"NulByte", std::string("x = 1\0 + 2\r\nEnd", 15), "End of Analize Page Number=1"}),
-    [](const auto& info) { return std::string(info.param.name); });
+    RowName());
 
 // ---- Stop requests
 
@@ -204,7 +204,7 @@ INSTANTIATE_TEST_SUITE_P(
                               {"Call Spin(1)", "End", "Function Spin(a)", "Do While 1 = 1", "Loop",
                                "End Function"},
                               "End of Analize Page Number=2"}),
-    [](const auto& info) { return std::string(info.param.name); });
+    RowName());
 
 }  // namespace
 }  // namespace lapdesk

@@ -108,7 +108,7 @@ INSTANTIATE_TEST_SUITE_P(
                                     {"Dim A(120, 120)", "For i = 0 To 120", "A(i, i) = 2", "Next",
                                      "B = INVMAT(A)", "Return B(0, 0)", "End"},
                                     4}),
-    [](const auto& info) { return std::string(info.param.name); });
+    RowName());
 
 TEST(StopInside, TheImmediateLineSaysItWasStopped) {
     Session s;

@@ -193,11 +193,7 @@ INSTANTIATE_TEST_SUITE_P(Inputs, FftBits,
                                          InputRow{"wide", -60, 60, false},
                                          InputRow{"subnormal", -1074, -1000, false},
                                          InputRow{"near the top", 1010, 1023, true}),
-                         [](const auto& info) {
-                             std::string name = info.param.name;
-                             std::replace(name.begin(), name.end(), ' ', '_');
-                             return name;
-                         });
+                         RowName());
 
 // A single infinity or NaN anywhere in the input, or one overflow deep in
 // the stages, raises the overflow fault like the reference does.

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <complex>
+#include <string>
 #include <vector>
 
 #include "values/fault.h"
@@ -80,7 +81,8 @@ TEST_P(FftAgainstDft, ForwardAndInverseMatchTheDefinition) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Sizes, FftAgainstDft, testing::Values(4, 8, 16, 128, 1024, 4096));
+INSTANTIATE_TEST_SUITE_P(Sizes, FftAgainstDft, testing::Values(4, 8, 16, 128, 1024, 4096),
+                         [](const auto& info) { return "N" + std::to_string(info.param); });
 
 TEST(CplFft, BlocksThatDoNotFitAreRefused) {
     struct Row {

@@ -98,7 +98,8 @@ INSTANTIATE_TEST_SUITE_P(
                     PairRow{"ramp", [](Cx s) { return 1.0 / (s * s); }, [](double t) { return t; }},
                     PairRow{"sine", [](Cx s) { return 1.0 / (s * s + 1.0); },
                             [](double t) { return std::sin(t); }},
-                    PairRow{"zero", [](Cx) { return Cx{}; }, [](double) { return 0.0; }}));
+                    PairRow{"zero", [](Cx) { return Cx{}; }, [](double) { return 0.0; }}),
+    RowName());
 
 // sin(w t) over the whole record of T = 5, n = 1..255.
 struct Ringing {

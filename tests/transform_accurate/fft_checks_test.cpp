@@ -113,7 +113,8 @@ INSTANTIATE_TEST_SUITE_P(
                     CheckRow{"branch_right", [](Cx s) { return 1.0 / std::sqrt(s - 2.0); },
                              SingularityVerdict::Singular, true},
                     CheckRow{"pole_on_a_test_point", [](Cx s) { return 1.0 / (s * s - 9.0); },
-                             SingularityVerdict::CannotVerify, false}));
+                             SingularityVerdict::CannotVerify, false}),
+    RowName());
 
 }  // namespace
 }  // namespace lapdesk

@@ -4,10 +4,10 @@
 // short times): no silent point, and estimates that cover the true error.
 #include <gtest/gtest.h>
 
-#include <cctype>
 #include <string>
 
 #include "laplace_pairs.h"
+#include "named_rows.h"
 #include "pair_scores.h"
 
 namespace lapdesk {
@@ -31,14 +31,7 @@ TEST_P(LaplacePairs, NoSilentPointAtN256) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Set, LaplacePairs, testing::ValuesIn(laplace_pairs::Pairs()),
-                         [](const testing::TestParamInfo<laplace_pairs::Pair>& info) {
-                             std::string name = info.param.name;
-                             for (char& c : name) {
-                                 if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
-                             }
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Set, LaplacePairs, testing::ValuesIn(laplace_pairs::Pairs()), RowName());
 
 }  // namespace
 }  // namespace lapdesk

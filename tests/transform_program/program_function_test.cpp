@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "interp/recording_view.h"
+#include "named_rows.h"
 
 namespace lapdesk {
 namespace {
@@ -57,7 +58,8 @@ INSTANTIATE_TEST_SUITE_P(
                                "プログラムの実行に失敗: 実行時異常終了"},
                     FailureRow{"runaway", "x = 0\r\nDo\r\nx = x + 1\r\nLoop\r\nEnd",
                                "プログラムが 1000 文を超えても終わらない"},
-                    FailureRow{"code_error", "Return (p\r\nEnd", "プログラムの実行に失敗"}));
+                    FailureRow{"code_error", "Return (p\r\nEnd", "プログラムの実行に失敗"}),
+    RowName());
 
 TEST(ProgramFunction, PassesTheStopRequestThrough) {
     Program program("Return p\r\nEnd");
