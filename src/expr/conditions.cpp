@@ -108,7 +108,7 @@ std::string ReplaceSynonyms(std::string_view condition) {
 // wait on a stack above the "@Top@" marker until a weaker one arrives.
 bool Evaluator::EvalCondition(std::string_view text, bool& truth) {
     NestingGuard guard;
-    ScanCache& cache = ScanCache::Instance();
+    ScanCache& cache = scope_.Scans();
     const ScanCache::Evaluating evaluating(cache);
     std::optional<ConditionScan> fresh;
     const ConditionScan& scan = cache.Condition(text, fresh);

@@ -72,7 +72,7 @@ bool Evaluator::Fail(std::string reason) {
 // The public levels take their text's kept scan, or scan it afresh, and
 // give their value only on success.
 bool Evaluator::EvalSum(std::string_view& text, Complex& value) {
-    ScanCache& cache = ScanCache::Instance();
+    ScanCache& cache = scope_.Scans();
     const ScanCache::Evaluating evaluating(cache);
     std::optional<SumScan> fresh;
     Complex result;
@@ -83,7 +83,7 @@ bool Evaluator::EvalSum(std::string_view& text, Complex& value) {
 }
 
 bool Evaluator::EvalSum(const SumScan& scan, Complex& value) {
-    const ScanCache::Evaluating evaluating(ScanCache::Instance());
+    const ScanCache::Evaluating evaluating(scope_.Scans());
     Complex result;
     if (!EvalScannedSum(scan, result)) return false;
     value = result;

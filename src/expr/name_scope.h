@@ -11,6 +11,7 @@
 namespace lapdesk {
 
 class Evaluator;
+class ScanCache;
 
 class NameScope {
   public:
@@ -46,6 +47,9 @@ class NameScope {
     // an array result is kept by the scope for the assignment that called it.
     virtual bool CallMatrixFunction(std::size_t index, std::span<const std::string_view> arguments,
                                     Complex& value) = 0;
+
+    // The scans kept for the texts evaluated in this scope, again and again.
+    virtual ScanCache& Scans() = 0;
 
     // Called at every primary, so that a stop request can end the work of
     // one long expression; a scope that honours one raises its own signal.

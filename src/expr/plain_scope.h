@@ -7,6 +7,7 @@
 #include <string>
 
 #include "expr/name_scope.h"
+#include "expr/scan_cache.h"
 #include "values/matrix.h"
 
 namespace lapdesk {
@@ -25,8 +26,10 @@ class PlainScope : public NameScope {
     bool CallUserFunction(Evaluator& evaluator, std::string_view call, Complex& value) override;
     bool CallMatrixFunction(std::size_t index, std::span<const std::string_view> arguments,
                             Complex& value) override;
+    ScanCache& Scans() override { return scans_; }
 
   private:
+    ScanCache scans_;
     std::map<std::string, ComplexArray, std::less<>> arrays_;  // a scalar is a 1x1 array
     std::optional<ComplexArray> lastArray_;
 };

@@ -12,11 +12,6 @@ constexpr std::size_t kMaxSeenOnce = 1u << 16;
 
 }  // namespace
 
-ScanCache& ScanCache::Instance() {
-    static ScanCache cache;
-    return cache;
-}
-
 ScanCache::Evaluating::Evaluating(ScanCache& cache) : cache_(cache) {
     if (cache_.evaluating_++ > 0) return;
     if (cache_.keptBytes_ > kMaxKeptBytes) {

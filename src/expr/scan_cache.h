@@ -31,9 +31,6 @@ struct KeptScan {
 
 class ScanCache {
   public:
-    // The process's one store (the interpreter runs on one thread).
-    static ScanCache& Instance();
-
     // Held while an evaluation runs: the store is never emptied under the
     // scans that an evaluation is working through.
     class Evaluating {

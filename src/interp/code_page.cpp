@@ -19,21 +19,21 @@ constexpr std::string_view kStopped = "中断しました";
 }  // namespace
 
 ClsCode::ClsCode(Interpreter& session) : session_(session) {
-    NamesChanged();
+    session_.NamesChanged();
 }
 
 ClsCode::~ClsCode() {
-    NamesChanged();  // a later page may take this one's address
+    session_.NamesChanged();  // a later page may take this one's address
 }
 
 void ClsCode::SetPageIndex(std::int16_t index) {
     pageIndex_ = index;
-    NamesChanged();
+    session_.NamesChanged();
 }
 
 void ClsCode::SetPageName(std::string name) {
     pageName_ = std::move(name);
-    NamesChanged();
+    session_.NamesChanged();
     if (SameWord(pageName_, "Imidate")) {
         pageIndex_ = kImmediatePageIndex;
         session_.RegisterGlobalPage(*this);

@@ -27,11 +27,6 @@ class ClsCode : public NameScope {
     ClsCode(const ClsCode&) = delete;
     ClsCode& operator=(const ClsCode&) = delete;
 
-    // To be called whenever a name may find another variable than before:
-    // variables declared or erased, parameter lists, pages or the case
-    // option changed. Places kept by earlier reads are then searched again.
-    static void NamesChanged() { ++namesGeneration_; }
-
     const std::string& PageName() const { return pageName_; }
     void SetPageName(std::string name);  // "Imidate" (any case) makes it the global page
     bool Analized() const { return analized_; }
@@ -113,6 +108,7 @@ class ClsCode : public NameScope {
     bool CallMatrixFunction(std::size_t index, std::span<const std::string_view> arguments,
                             Complex& value) override;
     void PollStop() override;
+    ScanCache& Scans() override;
 
   private:
     enum class Flow { Normal, End, Fail };  // End: the page finished early (End, Return)
@@ -207,8 +203,6 @@ class ClsCode : public NameScope {
     std::string errorArgument_;
     Complex valueArea_;
     std::optional<ComplexArray> arrayResult_;  // of the last matrix function
-
-    static inline std::uint64_t namesGeneration_ = 0;
 };
 
 }  // namespace lapdesk

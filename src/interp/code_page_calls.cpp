@@ -58,7 +58,7 @@ bool ClsCode::APc03DefineFunction(std::string_view header) {
     }
     SetPageName(std::string(name));
     arguments_ = std::move(slots);
-    NamesChanged();
+    session_.NamesChanged();
     return true;
 }
 

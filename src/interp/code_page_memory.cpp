@@ -39,7 +39,7 @@ std::int16_t ClsCode::AppendVariable(std::string_view name, std::int16_t typ, st
     RequireRoomForOneMore(index);
     memory_.push_back(MemoryRec{std::string(name), typ, ni, nj, ln,
                                 std::vector<Complex>(static_cast<std::size_t>(ln) + 1)});
-    NamesChanged();
+    session_.NamesChanged();
     SetAnalized(false);
     return index;
 }
@@ -53,14 +53,14 @@ void ClsCode::AEraseMemorys() {
     ifs_.clear();
     selects_.clear();
     statements_.clear();
-    NamesChanged();
+    session_.NamesChanged();
     SetAnalized(false);
 }
 
 void ClsCode::AEraseMemory(std::int16_t i) {
     Memory(i);  // bounds check
     memory_.erase(memory_.begin() + i);
-    NamesChanged();
+    session_.NamesChanged();
     SetAnalized(false);
 }
 
@@ -146,14 +146,14 @@ ClsCode::Found ClsCode::ParameterFound(std::int16_t s) {
 }
 
 bool ClsCode::IsCurrent(const Place& place) const {
-    return place.scope == this && place.generation == namesGeneration_;
+    return place.scope == this && place.generation == session_.NamesGeneration();
 }
 
 ClsCode::Found ClsCode::Locate(std::string_view name, Place& place) {
     if (!IsCurrent(place)) {
         const Found found = AzIsVariableSearch(name);
-        place = {this,        namesGeneration_, found.page,
-                 found.index, found.slot,       static_cast<std::uint8_t>(found.kind)};
+        place = {this,       session_.NamesGeneration(),           found.page, found.index,
+                 found.slot, static_cast<std::uint8_t>(found.kind)};
         return found;
     }
     if (place.slot >= 0) return ParameterFound(place.slot);
@@ -269,6 +269,10 @@ bool ClsCode::CallMatrixFunction(std::size_t index, std::span<const std::string_
     if (!ApplyMatrixFunction(code, args, value, array, [this] { CheckStop(); })) return false;
     if (array) arrayResult_ = std::move(array);
     return true;
+}
+
+ScanCache& ClsCode::Scans() {
+    return session_.Scans();
 }
 
 void ClsCode::PollStop() {

@@ -35,8 +35,17 @@ class Interpreter {
     bool caseSensitive() const { return caseSensitive_; }
     void SetCaseSensitive(bool on) {
         caseSensitive_ = on;
-        ClsCode::NamesChanged();
+        NamesChanged();
     }
+
+    // To be called whenever a name may find another variable than before:
+    // variables declared or erased, parameter lists, pages or the case
+    // option changed. Places kept by earlier reads are then searched again.
+    void NamesChanged() { ++namesGeneration_; }
+    std::uint64_t NamesGeneration() const { return namesGeneration_; }
+
+    // The scans kept for the texts the session evaluates again and again.
+    ScanCache& Scans() { return scans_; }
 
     // The immediate page (created on first use) and the program pages.
     ClsCode& ImmediatePage();
@@ -87,6 +96,9 @@ class Interpreter {
 
     InterpreterView* view_;
     bool caseSensitive_ = true;
+    // Before the pages: a page that goes away tells of it.
+    std::uint64_t namesGeneration_ = 0;
+    ScanCache scans_;
     std::unique_ptr<ClsCode> immediateOwned_;
     ClsCode* immediate_ = nullptr;
     std::vector<std::unique_ptr<ClsCode>> pages_;

@@ -26,6 +26,7 @@ void RequireFittingBlock(const TransformBlock& block) {
     const int n = block.N;
     const bool powerOfTwo = n >= 4 && (n & (n - 1)) == 0;
     if (!powerOfTwo || n > static_cast<int>(block.Data.size()) ||
+        n > static_cast<int>(block.Scratch.size()) ||
         static_cast<int>(block.CosTable.size()) < n / 2 + 1) {
         RaiseFault(FaultCode::SubscriptOutOfRange);
     }
@@ -217,12 +218,6 @@ class FiniteCheck {
     Flags bad_{0, 0};
 };
 
-// Room for one transform's reordered output, so the routines never allocate.
-Complex* Scratch() {
-    static std::array<Complex, kMaxPoints> scratch;
-    return scratch.data();
-}
-
 // All stages, each result handed to put(bit-reversed index, value); then the
 // overflow fault if any result is not finite.
 template <typename Put>
@@ -241,7 +236,7 @@ void RunStages(TransformBlock& block, Put put) {
 }  // namespace
 
 void CplFft(TransformBlock& block) {
-    Complex* out = Scratch();
+    Complex* out = block.Scratch.data();
     RunStages(block, [&](int k, Pair v) { Store(out + k, v); });
     std::copy_n(out, block.N, block.Data.begin());
 }
@@ -254,7 +249,7 @@ void CplIfft(TransformBlock& block) {
     const int n = block.N;
     const double s = 1.0 / n;
     const Pair scale{s, s};
-    Complex* out = Scratch();
+    Complex* out = block.Scratch.data();
     RunStages(block, [&](int k, Pair v) { Store(out + ((n - k) & (n - 1)), scale * v); });
     std::copy_n(out, n, block.Data.begin());
 }

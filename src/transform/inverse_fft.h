@@ -29,6 +29,8 @@ struct TransformBlock {
     double WindowWeight = 0.0;     // last window weight used in sampling
     std::vector<double> CosTable;  // cos(2*pi*k/N) for k = 0..N/2
     std::vector<Complex> Data = std::vector<Complex>(kMaxPoints);
+    // Room for one transform's reordered output, so the routines never allocate.
+    std::vector<Complex> Scratch = std::vector<Complex>(kMaxPoints);
 };
 
 // Forward DFT of Data[0..N-1] in place, natural order in and out:
