@@ -49,20 +49,20 @@ enum class Direction { ToUtf8, ToCp932 };
 
 std::string ConversionFailure(Direction direction, std::string_view input, std::size_t offset,
                               int error) {
-    const std::string at = " at byte " + std::to_string(offset);
-    if (error == EINVAL) return "the text ends inside a multibyte character" + at;
+    const std::string at = "（" + std::to_string(offset) + " バイト目）";
+    if (error == EINVAL) return "テキストが多バイト文字の途中で終わっています" + at;
     if (direction == Direction::ToCp932) {
-        return "character U+" + Hex(CodePointAt(input.substr(offset)), 4) +
-               " cannot be written in cp932" + at;
+        return "文字 U+" + Hex(CodePointAt(input.substr(offset)), 4) + " は cp932 で書けません" +
+               at;
     }
-    return "byte 0x" + Hex(static_cast<unsigned char>(input[offset]), 2) + " is not valid cp932" +
-           at;
+    return "バイト 0x" + Hex(static_cast<unsigned char>(input[offset]), 2) +
+           " は cp932 の文字になりません" + at;
 }
 
 TextResult Convert(Direction direction, std::string_view input) {
     const Converter converter(direction == Direction::ToUtf8 ? "UTF-8" : "CP932",
                               direction == Direction::ToUtf8 ? "CP932" : "UTF-8");
-    if (!converter.ok()) return {false, {}, "the system has no cp932 converter"};
+    if (!converter.ok()) return {false, {}, "この環境には cp932 の文字変換がありません"};
     std::string source(input);
     std::string output(input.size() * 3 + 16, '\0');
     char* in = source.data();
@@ -122,7 +122,7 @@ TextResult Cp932ToUtf8(std::string_view cp932) {
 }
 
 TextResult Utf8ToCp932(std::string_view utf8) {
-    if (!IsValidUtf8(utf8)) return {false, {}, "the text is not valid UTF-8"};
+    if (!IsValidUtf8(utf8)) return {false, {}, "テキストが UTF-8 として読めません"};
     return Convert(Direction::ToCp932, utf8);
 }
 
@@ -138,7 +138,8 @@ bool IsValidUtf8(std::string_view bytes) {
 TextResult DecodeText(std::string_view bytes) {
     if (bytes.starts_with(kUtf8Bom)) {
         bytes.remove_prefix(kUtf8Bom.size());
-        if (!IsValidUtf8(bytes)) return {false, {}, "the file has a UTF-8 mark but is not UTF-8"};
+        if (!IsValidUtf8(bytes))
+            return {false, {}, "UTF-8 の印（BOM）で始まるのに UTF-8 として読めません"};
         return {true, std::string(bytes), {}};
     }
     if (IsValidUtf8(bytes)) return {true, std::string(bytes), {}};

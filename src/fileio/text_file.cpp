@@ -12,8 +12,30 @@ namespace lapdesk {
 
 namespace {
 
-std::string SystemReason(const std::string& what, const std::filesystem::path& path) {
-    return what + " " + QuotedPath(path) + ": " + std::strerror(errno);
+// Why a file could not be written, by the system's error number.
+std::string WriteFailure(int error) {
+    switch (error) {
+        case ENOSPC:
+        case EDQUOT:
+            return "ディスクの空きが足りません";
+        case EACCES:
+        case EPERM:
+            return "書き込む権限がありません";
+        case EROFS:
+            return "読み取り専用の場所です";
+        case ENOENT:
+        case ENOTDIR:
+            return "フォルダがありません";
+        case EISDIR:
+            return "同じ名前のフォルダがあります";
+        default:
+            return "システムのエラー番号 " + std::to_string(error);
+    }
+}
+
+// "'path' に書き込めません：ディスクの空きが足りません", from errno.
+std::string SystemReason(std::string_view what, const std::filesystem::path& path) {
+    return QuotedPath(path) + " " + std::string(what) + "：" + WriteFailure(errno);
 }
 
 // Why a file could not be opened or read, by the system's error number.
@@ -116,10 +138,10 @@ bool FillTemporary(int fd, const std::filesystem::path& target, std::string_view
         fchmod(fd, existing.st_mode & 07777);  // best effort: no save fails over its mode
     }
     bool ok = WriteAll(fd, bytes) && fsync(fd) == 0;
-    if (!ok) reason = SystemReason("cannot write", target);
+    if (!ok) reason = SystemReason("に書き込めません", target);
     if (close(fd) != 0 && ok) {
         ok = false;
-        reason = SystemReason("cannot write", target);
+        reason = SystemReason("に書き込めません", target);
     }
     return ok;
 }
@@ -150,14 +172,14 @@ LinesResult ReadTextLines(const std::filesystem::path& path) {
 WriteResult WriteBytesAtomic(const std::filesystem::path& path, std::string_view bytes) {
     std::filesystem::path temporary;
     const int fd = CreateTemporary(path, temporary);
-    if (fd < 0) return {false, SystemReason("cannot create a temporary file for", path)};
+    if (fd < 0) return {false, SystemReason("を保存する一時ファイルを作れません", path)};
     std::string reason;
     if (!FillTemporary(fd, path, bytes, reason)) {
         unlink(temporary.c_str());
         return {false, reason};
     }
     if (std::rename(temporary.c_str(), path.c_str()) != 0) {
-        reason = SystemReason("cannot replace", path);
+        reason = SystemReason("を置き換えられません", path);
         unlink(temporary.c_str());
         return {false, reason};
     }
@@ -166,7 +188,7 @@ WriteResult WriteBytesAtomic(const std::filesystem::path& path, std::string_view
 
 WriteResult WriteTextAtomic(const std::filesystem::path& path, std::string_view utf8Text) {
     const TextResult encoded = Utf8ToCp932(utf8Text);
-    if (!encoded.ok) return {false, "cannot save " + QuotedPath(path) + ": " + encoded.reason};
+    if (!encoded.ok) return {false, QuotedPath(path) + " を保存できません：" + encoded.reason};
     return WriteBytesAtomic(path, encoded.text);
 }
 

@@ -45,10 +45,10 @@ TEST(Utf8ToCp932, FailsWithTheOffendingCodePoint) {
 TEST(Cp932ToUtf8, InvalidBytesFailWithTheirOffset) {
     const TextResult lone = Cp932ToUtf8(std::string("ab\x81\x20", 4));
     EXPECT_FALSE(lone.ok);
-    EXPECT_NE(lone.reason.find("byte 2"), std::string::npos) << lone.reason;
+    EXPECT_NE(lone.reason.find("2 バイト目"), std::string::npos) << lone.reason;
     const TextResult cut = Cp932ToUtf8("ab\x82");
     EXPECT_FALSE(cut.ok);
-    EXPECT_NE(cut.reason.find("ends inside"), std::string::npos) << cut.reason;
+    EXPECT_NE(cut.reason.find("途中で終わって"), std::string::npos) << cut.reason;
 }
 
 TEST(IsValidUtf8, AcceptsWellFormedAndRejectsTheRest) {
