@@ -79,8 +79,8 @@ int RunInvert(const InvertOptions& options) {
     TransformDriver driver;
     if (!driver.SetWordNumber(options.n) || !driver.SetTend(options.t) ||
         !driver.SetGanma(options.gamma0)) {
-        std::cerr << "lapdesk-cli invert: N must be one of 128, 256, ..., 4096, and T and gamma0 "
-                     "numbers greater than 0\n";
+        std::cerr << "lapdesk-cli invert: N は 128, 256, ..., 4096 のどれか、T と γ0 は 0 "
+                     "より大きい数にしてください\n";
         return 2;
     }
     const bool accurate = options.method == "dehoog";
