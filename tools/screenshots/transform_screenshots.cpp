@@ -154,12 +154,13 @@ int main(int argc, char** argv) {
     Click(form, "Command2");
     Save(Grab(form), folder, QStringLiteral("transform-6-failure"));
 
-    // A program that fails: its message comes to the front, then is
-    // double-clicked away.
+    // A program whose call fails at an argument: its message comes to the
+    // front with the failing line marked, then is double-clicked away.
     Enter(form, "Ganmalb", "GanmaText", "5");
     auto* editor = Child<QPlainTextEdit>(calculator, "ProgramText");
     const QString good = editor->toPlainText();
-    editor->setPlainText(QStringLiteral("q = 1/(p-p)\nReturn q\nEnd"));
+    editor->setPlainText(QStringLiteral(
+        "' 引数の誤り\nq = F(w + 1)\nReturn q\nEnd\nFunction F(x)\n  Return x\nEnd Function"));
     QObject::connect(
         &calculator, &lapdesk::FrmCplCal::messageShown, &calculator,
         [&calculator, &folder] {
