@@ -83,8 +83,11 @@ bool ClsCode::ACalcu(std::string_view text, double& re, double& im) {
     Complex value;
     try {
         if (!evaluator.EvalSum(text, value)) {
-            SetErrorText(evaluator.failure().empty() ? "式が正しくありません"
-                                                     : evaluator.failure());
+            // A call that failed at an argument has said which one.
+            if (errorText_.empty()) {
+                SetErrorText(evaluator.failure().empty() ? "式が正しくありません"
+                                                         : evaluator.failure());
+            }
             return false;
         }
     } catch (const RuntimeFault& fault) {

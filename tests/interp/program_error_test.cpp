@@ -71,5 +71,16 @@ TEST(ProgramErrors, ForgetTheirSourceLineOnceTheTextChanges) {
     EXPECT_EQ(s.interpreter.SourceLineOf(1), -1);
 }
 
+// On the immediate line a call's failed argument is named, without a place.
+TEST(ProgramErrors, AnImmediateCallNamesItsFailedArgument) {
+    Session s;
+    ASSERT_TRUE(s.Run("Return 0\r\nEnd\r\nFunction F(x)\r\nReturn x\r\nEnd Function"));
+    ASSERT_TRUE(s.Line("Dim v(2)").ok);
+    const ImmediateResult result = s.Line("F(v(7))");
+    EXPECT_FALSE(result.ok);
+    EXPECT_EQ(result.reason, "引数添字値 v(7) 範囲外");
+    EXPECT_EQ(s.Line("F(1) + (").reason, "括弧が閉じていません") << "the next line has its own";
+}
+
 }  // namespace
 }  // namespace lapdesk
