@@ -27,7 +27,7 @@ namespace lapdesk {
 
 // ButtonEnter: evaluate the immediate line, show the value, record it.
 void FrmCplCal::ButtonEnter_Click() {
-    kai_->SetFullText(QString());
+    SetKaiText(QString());
     label5_->hide();
     statusBar()->clearMessage();  // news of an earlier run or file is old now
     ProcessEvents();
@@ -38,9 +38,9 @@ void FrmCplCal::ButtonEnter_Click() {
     historyRow_ = -1;
     if (result.ok) {
         Complex value = result.value;
-        kai_->SetFullText(QString::fromStdString(ComplexToText(value, RoundedDisplay())));
+        SetKaiText(QString::fromStdString(ComplexToText(value, RoundedDisplay())));
     } else {
-        kai_->SetFullText(QStringLiteral("Error"));
+        SetKaiText(QStringLiteral("Error"));
         // Why, in the interpreter's words, where the eye goes next.
         statusBar()->showMessage(QString::fromStdString(result.reason));
     }
@@ -119,6 +119,7 @@ void FrmCplCal::ShowProgramError(const ProgramError& error) {
 // Shows the message and blocks the caller until it is double-clicked away;
 // the program buttons and the File menu wait with it.
 void FrmCplCal::ShowMessage(QString text) {
+    ShowKai();
     if (running_) ShowRunningPlace();  // the place the message speaks of
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     messageBox_->setText(text);
@@ -178,7 +179,7 @@ void FrmCplCal::closeEvent(QCloseEvent* event) {
 void FrmCplCal::OptionNomal_Click() {
     programMode_ = false;
     if (kaiFromProgram_) {
-        kai_->SetFullText(QString());
+        SetKaiText(QString());
         kaiFromProgram_ = false;
     }
     histryList_->show();

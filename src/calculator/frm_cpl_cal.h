@@ -170,6 +170,8 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     void ShowMessage(QString text);
     void MarkErrorLine(const StatementPlace& place);
     void ShowRunningPlace();
+    void ShowKai();                        // the answer field's pending text
+    void SetKaiText(const QString& text);  // the answer field, at once
     void HoldInputForMessage(bool hold);
     void UpdateEnabled();
 
@@ -238,6 +240,8 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     bool mouseShiftOnly_ = false;
     bool immediateOk_ = false;
     bool kaiFromProgram_ = false;  // kai shows what a program run left
+    QString kaiText_;              // what a run set last; drawn at the screen's pace
+    bool kaiPending_ = false;      // kaiText_ is not drawn yet
     int historyRow_ = -1;          // the entry Up and Down last recalled
     bool messageWaiting_ = false;
     bool stopRequested_ = false;

@@ -76,7 +76,8 @@ void FrmCplCal::BeginRun() {
 }
 
 void FrmCplCal::EndRun() {
-    ShowRunningPlace();  // where the run ended, whatever the pace skipped
+    ShowKai();           // how the run ended, whatever the pace skipped
+    ShowRunningPlace();  // and where
     listEntry_ = -1;
     running_ = false;
     UpdateEnabled();
@@ -172,9 +173,26 @@ void FrmCplCal::SelectProgramListEntry(std::int16_t index) {
     listEntry_ = index;
 }
 
+// Inside a program run the texts it sets (several per sample when the
+// transform samples the program) are shown at the screen's pace and when
+// the run ends or a message shows, not each on its own.
 void FrmCplCal::SetKai(const std::string& text) {
-    kai_->SetFullText(QString::fromStdString(text));
+    kaiText_ = QString::fromStdString(text);
+    kaiPending_ = true;
     kaiFromProgram_ = true;
+    if (!interpreter_.Busy()) ShowKai();
+}
+
+void FrmCplCal::ShowKai() {
+    if (!kaiPending_) return;
+    kaiPending_ = false;
+    kai_->SetFullText(kaiText_);
+}
+
+void FrmCplCal::SetKaiText(const QString& text) {
+    kaiText_ = text;
+    kaiPending_ = false;
+    kai_->SetFullText(text);
 }
 
 void FrmCplCal::ShowHint(const std::string& text) {
@@ -218,6 +236,7 @@ void FrmCplCal::CalProcMeter(double value, bool reset) {
 // at once to the eye).
 void FrmCplCal::ProcessEvents() {
     if (eventClock_.isValid() && eventClock_.elapsed() < kEventIntervalMs) return;
+    ShowKai();
     if (running_) ShowRunningPlace();
     QCoreApplication::processEvents();
     eventClock_.start();
