@@ -98,7 +98,12 @@ class ClsCode : public NameScope {
     // The reason of the last failure on this page; cleared before work whose
     // own failure is to be told apart from an earlier one.
     const std::string& ErrorText() const { return errorText_; }
-    void ClearErrorText() { SetErrorText({}); }
+    // Called before every statement runs: clears without building a text.
+    void ClearErrorText() {
+        errorText_.clear();
+        errorKind_ = ProgramErrorKind::Run;
+        errorArgument_.clear();
+    }
 
     // NameScope: how expressions on this page read names and call functions.
     bool ReadVariable(Evaluator& evaluator, std::string_view name,

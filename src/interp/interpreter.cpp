@@ -30,17 +30,12 @@ std::string_view BracketFault(std::string_view line) {
 constexpr std::uint32_t kAnalysingColour = 0xFFFFC0;
 constexpr std::uint32_t kReadyColour = 0x80FFFF;
 
-// One statement of the program text and the 0-based line it stands on.
-struct CutStatement {
-    std::string text;
-    std::int32_t line = 0;
-};
-
 // Statements of the program text: lines at the line break, the comment cut
 // at the line's last apostrophe, statements at ":". Blank statements are
-// left out.
-std::vector<CutStatement> CutStatements(std::string_view text) {
-    std::vector<CutStatement> statements;
+// left out. `lines` gets the 0-based line each statement stands on.
+std::vector<std::string> CutStatements(std::string_view text, std::vector<std::int32_t>& lines) {
+    std::vector<std::string> statements;
+    lines.clear();
     for (std::int32_t lineNumber = 0; !text.empty(); ++lineNumber) {
         const std::size_t end = text.find('\n');
         std::string_view line = text.substr(0, end);
@@ -53,7 +48,8 @@ std::vector<CutStatement> CutStatements(std::string_view text) {
             const std::size_t colon = line.find(':', start);
             const std::string_view piece = Trim(line.substr(start, colon - start));
             if (!piece.empty() && piece.front() != '\'') {
-                statements.push_back({std::string(piece), lineNumber});
+                statements.emplace_back(piece);
+                lines.push_back(lineNumber);
             }
             if (colon == std::string_view::npos) break;
             start = colon + 1;
@@ -154,14 +150,9 @@ bool Interpreter::RunProgramOnce(double& re, double& im, bool eraseGlobals, bool
 bool Interpreter::CutProgram() {
     view_->ClearProgramList();
     pages_.clear();
-    const std::vector<CutStatement> cut = CutStatements(programText_);
-    std::vector<std::string> statements;
-    sourceLines_.clear();
-    for (const CutStatement& statement : cut) {
-        view_->AddProgramListEntry(statement.text);
-        statements.push_back(statement.text);
-        sourceLines_.push_back(statement.line);
-    }
+    const std::vector<std::string> statements = CutStatements(programText_, sourceLines_);
+    for (const std::string& statement : statements)
+        view_->AddProgramListEntry(statement);
     cutIsCurrent_ = true;
     if (statements.empty()) {
         // Nothing to analyse; said in words, beside the "Code Error0" status.

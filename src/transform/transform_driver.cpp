@@ -104,20 +104,20 @@ void TransformDriver::SetHaning(bool on) {
     haningOn_ = on;
 }
 
-bool TransformDriver::SetT(double t) {
-    const std::optional<double> shown = ShownPositive(t);
+bool TransformDriver::SetPositive(double value, double& parameter) {
+    const std::optional<double> shown = ShownPositive(value);
     if (!shown) return false;
-    if (conditions_.T != *shown) MarkDataInvalid();
-    conditions_.T = *shown;
+    if (parameter != *shown) MarkDataInvalid();
+    parameter = *shown;
     return true;
 }
 
+bool TransformDriver::SetT(double t) {
+    return SetPositive(t, conditions_.T);
+}
+
 bool TransformDriver::SetGamma0(double gamma0) {
-    const std::optional<double> shown = ShownPositive(gamma0);
-    if (!shown) return false;
-    if (conditions_.Gamma0 != *shown) MarkDataInvalid();
-    conditions_.Gamma0 = *shown;
-    return true;
+    return SetPositive(gamma0, conditions_.Gamma0);
 }
 
 bool TransformDriver::SetWordNumber(std::string_view text) {

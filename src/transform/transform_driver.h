@@ -112,6 +112,8 @@ class TransformDriver {
   private:
     void MarkDataInvalid();
     void SetWord(int n);
+    // T or gamma0 (`parameter`) from a value, as SetT and SetGamma0 take it.
+    bool SetPositive(double value, double& parameter);
 
     StatusSink status_;
     Conditions conditions_;

@@ -5,8 +5,6 @@
 #include <functional>
 #include <string>
 
-#include "values/number_text.h"
-
 namespace lapdesk {
 
 namespace {

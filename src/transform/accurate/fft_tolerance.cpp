@@ -5,7 +5,6 @@
 
 #include "transform/accurate/accuracy_run.h"
 #include "transform/accurate/line_values.h"
-#include "values/number_text.h"
 
 namespace lapdesk {
 
