@@ -7,6 +7,6 @@ target_link_libraries(program_bench
 if(LAPDESK_GUI)
   add_executable(window_bench ${CMAKE_CURRENT_LIST_DIR}/window_bench.cpp)
   target_link_libraries(window_bench
-    PRIVATE lapdesk_calculator lapdesk_transform_program lapdesk_bench_ratio_table
+    PRIVATE lapdesk_calculator lapdesk_transform_window lapdesk_transform_program lapdesk_bench_ratio_table
             lapdesk_warnings)
 endif()

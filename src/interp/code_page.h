@@ -130,6 +130,8 @@ class ClsCode : public NameScope {
     // Lets window events run inside a program run and raises StopRequest
     // when the user has asked to stop.
     void CheckStop();
+    // Tells the view where the run is and lets window events run.
+    void LetEventsRun();
     Found ParameterFound(std::int16_t s);
     bool IsCurrent(const Place& place) const;  // filled in by this page, names unchanged
     // AzIsVariableSearch's answer by way of `place`; for a variable of
@@ -165,7 +167,6 @@ class ClsCode : public NameScope {
                    const std::vector<std::string>& conditions, std::int16_t branch);
     bool Condition(std::string_view text, bool& truth);
     bool Assign(const StatementCode& code, Complex& assigned);
-    void ShowProgress(std::int16_t line);
     // Tells the view of the failed statement, as its statement or as the
     // call argument that failed in it.
     void ReportRunError(std::int16_t line);

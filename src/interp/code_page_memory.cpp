@@ -280,10 +280,14 @@ void ClsCode::PollStop() {
 }
 
 void ClsCode::CheckStop() {
-    InterpreterView& view = session_.view();
     // Events run only inside a program run, where the window expects them.
-    if (session_.Busy()) view.ProcessEvents();
-    if (view.StopRequested()) throw StopRequest{};
+    if (session_.Busy()) LetEventsRun();
+    if (session_.view().StopRequested()) throw StopRequest{};
+}
+
+void ClsCode::LetEventsRun() {
+    session_.ShowRunningStatement();
+    session_.view().ProcessEvents();
 }
 
 bool ClsCode::AStateMentDimension(std::span<const std::string_view> items) {

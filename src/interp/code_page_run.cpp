@@ -79,7 +79,6 @@ bool ClsCode::APc02CodeExecute(double& re, double& im) {
         // at a call after they have all finished.
         if (!analized_ && runningFrames_ == 0 && !APc01CodeAnalize()) return false;
         RunningFrame frame(runningFrames_);
-        session_.view().ShowPageIndex(pageIndex_);
         std::int16_t line = 0;
         currentLine_ = -1;
         flow = RunLoop(line, 0, Sub16(LineNum(), 1));
@@ -93,6 +92,8 @@ bool ClsCode::APc02CodeExecute(double& re, double& im) {
     } catch (const std::bad_alloc&) {
         fault = "メモリが不足しています。";
     }
+    // However the run ends, the view is left showing where it was.
+    if (outermost || !fault.empty()) session_.ShowRunningStatement();
     if (!fault.empty()) {
         const StatementPlace place = currentLine_ >= 0 ? PlaceOf(currentLine_) : StatementPlace{};
         session_.view().ShowProgramError({ProgramErrorKind::AbnormalEnd, place, fault});
@@ -104,21 +105,16 @@ bool ClsCode::APc02CodeExecute(double& re, double& im) {
 }
 
 ClsCode::Flow ClsCode::RunLoop(std::int16_t& line, std::int16_t first, std::int16_t last) {
+    InterpreterView& view = session_.view();
     for (line = first; line >= first && line <= last; line = Add16(line, 1)) {
-        if (session_.view().StopRequested()) return Flow::Fail;
-        ShowProgress(line);
+        if (view.StopRequested()) return Flow::Fail;
+        currentLine_ = line;
+        session_.NoteStatement(pageIndex_, line);
+        if (session_.PollDue()) LetEventsRun();
         const Flow flow = Dispatch(line);
         if (flow != Flow::Normal) return flow;
     }
     return Flow::Normal;
-}
-
-void ClsCode::ShowProgress(std::int16_t line) {
-    InterpreterView& view = session_.view();
-    currentLine_ = line;
-    view.ShowLineIndex(line);
-    if (view.ProgramListVisible()) view.SelectProgramListEntry(Line(line).LnNo);
-    view.ProcessEvents();
 }
 
 ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
@@ -207,6 +203,7 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
 
 void ClsCode::ReportRunError(std::int16_t line) {
     if (session_.view().StopRequested()) return;  // a stop is not an error
+    session_.ShowRunningStatement();
     session_.view().ShowProgramError({errorKind_, PlaceOf(line), errorArgument_});
 }
 

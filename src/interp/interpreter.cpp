@@ -104,6 +104,18 @@ void Interpreter::SetProgramText(std::string text) {
     programText_ = std::move(text);
 }
 
+void Interpreter::ShowRunningStatement() {
+    ClsCode* page = nullptr;
+    if (runningPage_ == kImmediatePageIndex) page = &ImmediatePage();
+    if (runningPage_ >= 0 && runningPage_ < PageCount()) page = &Page(runningPage_);
+    if (page == nullptr) return;
+    view_->ShowPageIndex(runningPage_);
+    view_->ShowLineIndex(runningLine_);
+    if (runningLine_ >= 0 && runningLine_ < page->LineNum() && view_->ProgramListVisible()) {
+        view_->SelectProgramListEntry(page->Line(runningLine_).LnNo);
+    }
+}
+
 bool Interpreter::EnterCall() {
     return ++callDepth_ <= kMaxCallDepth;
 }

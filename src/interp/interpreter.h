@@ -85,9 +85,21 @@ class Interpreter {
     // pages away from under the first.
     bool Busy() const { return busy_ || Running(); }
 
-    // True once every 1024 calls: how often evaluation looks at the stop
-    // request and lets window events run.
+    // True once every 1024 calls: how often evaluation and the run loop look
+    // at the stop request and let window events run.
     bool PollDue() { return (++pollCount_ & 1023u) == 0; }
+
+    // The statement a run is at. It is noted at every statement and told to
+    // the view only when window events run and when a run ends or fails:
+    // telling the view at every statement would cost more than running it.
+    void NoteStatement(std::int16_t page, std::int16_t line) {
+        runningPage_ = page;
+        runningLine_ = line;
+        ++statementsRun_;
+    }
+    void ShowRunningStatement();
+    // Statements begun since the session was made, calls included.
+    std::int64_t StatementsRun() const { return statementsRun_; }
 
   private:
     bool RunProgramOnce(double& re, double& im, bool eraseGlobals, bool run);
@@ -109,6 +121,9 @@ class Interpreter {
     int callDepth_ = 0;
     bool busy_ = false;
     unsigned pollCount_ = 0;
+    std::int16_t runningPage_ = kNoEntry;  // by index: the pages may be rebuilt
+    std::int16_t runningLine_ = -1;
+    std::int64_t statementsRun_ = 0;
 };
 
 }  // namespace lapdesk

@@ -159,12 +159,12 @@ INSTANTIATE_TEST_SUITE_P(
 
 // ---- Stop requests
 
-// Asks to stop once the given number of lines has been shown.
+// Asks to stop once window events have run the given number of times.
 class StoppingView : public RecordingView {
   public:
-    int limit = 500;
+    int limit = 5;
     int shown = 0;
-    void ShowLineIndex(std::int16_t) override {
+    void ProcessEvents() override {
         if (++shown >= limit) stopRequested = true;
     }
 };
@@ -182,7 +182,7 @@ TEST_P(StopRequest, EndsTheRunWithoutAMessage) {
     EXPECT_FALSE(s.RunLines(GetParam().lines));
     EXPECT_EQ(s.view.kai, GetParam().kai);
     EXPECT_TRUE(s.view.messages.empty());
-    EXPECT_EQ(s.view.shown, s.view.limit);  // no line runs after the request
+    EXPECT_EQ(s.view.shown, s.view.limit);  // the run ends at the request
 }
 
 INSTANTIATE_TEST_SUITE_P(

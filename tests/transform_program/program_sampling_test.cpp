@@ -17,14 +17,15 @@ namespace {
 
 using testing_support::StatusLog;
 
-// Counts the program runs (each run shows page 0) and can ask for a stop
-// once a given number of runs has started.
+// Counts the program runs (each run says it is executing) and can ask for
+// a stop once a given number of runs has started.
 class CountingView : public RecordingView {
   public:
     int runs = 0;
     int stopAfterRuns = -1;
-    void ShowPageIndex(std::int16_t page) override {
-        if (page == 0 && ++runs == stopAfterRuns) stopRequested = true;
+    void SetKai(const std::string& text) override {
+        RecordingView::SetKai(text);
+        if (text == "Now Executing" && ++runs == stopAfterRuns) stopRequested = true;
     }
 };
 

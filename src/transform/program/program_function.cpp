@@ -20,28 +20,25 @@ std::string OneLine(std::string text) {
 }  // namespace
 
 // Forwards everything to the user's view except the messages, which it
-// keeps, and the stop request, which it also raises past the budget. The
-// budget counts statements (each one shows its line).
+// keeps, and the stop request, which it also raises past the budget of
+// statements the session may begin in one run.
 class ProgramFunction::GuardView : public InterpreterView {
   public:
-    GuardView(InterpreterView& user, std::int64_t budget) : user_(user), budget_(budget) {}
+    GuardView(const Interpreter& session, InterpreterView& user, std::int64_t budget)
+        : session_(session), user_(user), budget_(budget) {}
 
     void Start() {
         messages.clear();
-        statements = 0;
+        startedAt_ = session_.StatementsRun();
     }
-    bool OverBudget() const { return statements > budget_; }
+    bool OverBudget() const { return session_.StatementsRun() - startedAt_ > budget_; }
     std::int64_t budget() const { return budget_; }
 
     std::vector<std::string> messages;
-    std::int64_t statements = 0;
 
     void Errmessage(const std::string& message) override { messages.push_back(message); }
     void ShowPageIndex(std::int16_t i) override { user_.ShowPageIndex(i); }
-    void ShowLineIndex(std::int16_t i) override {
-        ++statements;
-        user_.ShowLineIndex(i);
-    }
+    void ShowLineIndex(std::int16_t i) override { user_.ShowLineIndex(i); }
     void ClearProgramList() override { user_.ClearProgramList(); }
     void AddProgramListEntry(const std::string& s) override { user_.AddProgramListEntry(s); }
     bool ProgramListVisible() const override { return user_.ProgramListVisible(); }
@@ -59,8 +56,10 @@ class ProgramFunction::GuardView : public InterpreterView {
     void ShowTransformProgress(bool on) override { user_.ShowTransformProgress(on); }
 
   private:
+    const Interpreter& session_;
     InterpreterView& user_;
     std::int64_t budget_;
+    std::int64_t startedAt_ = 0;
 };
 
 namespace {
@@ -93,7 +92,7 @@ bool SetLaplacePoint(Interpreter& session, const Complex& s) {
 ProgramFunction::ProgramFunction(Interpreter& session, std::int64_t statementBudget)
     : session_(session),
       userView_(session.view()),
-      guard_(std::make_unique<GuardView>(session.view(), statementBudget)),
+      guard_(std::make_unique<GuardView>(session, session.view(), statementBudget)),
       savedP_(CurrentP(session)) {
     session_.SetView(*guard_);
 }
