@@ -4,18 +4,19 @@
 // It draws the interpreter's state and hands every request to it.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QPoint>
 #include <QPointer>
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "calculator/active_text_box.h"
 #include "calculator/calculator_dialogs.h"
 #include "calculator/file_name_chooser.h"
+#include "calculator/screen_pace.h"
 #include "calculator/transform_link.h"
 #include "interp/interpreter.h"
 #include "interp/interpreter_view.h"
@@ -132,7 +133,9 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     void CalProcMeter(double value, bool reset) override;
     bool StopRequested() const override { return stopRequested_; }
     void ClearStopRequest() override { stopRequested_ = false; }
-    void ShowTransformProgress(bool on) override { SetProgressView(on); }
+    // The progress view comes at the first events one pace into the data
+    // creation: a creation shorter than that never swaps the keyboard out.
+    void ShowTransformProgress(bool on) override;
     void ShowProgramError(const ProgramError& error) override;
     void ProcessEvents() override;
 
@@ -171,6 +174,7 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     void MarkErrorLine(const StatementPlace& place);
     void ShowRunningPlace();
     void ShowKai();                        // the answer field's pending text
+    void ShowMeter();                      // the meter's pending value
     void SetKaiText(const QString& text);  // the answer field, at once
     void HoldInputForMessage(bool hold);
     void UpdateEnabled();
@@ -240,9 +244,11 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     bool mouseShiftOnly_ = false;
     bool immediateOk_ = false;
     bool kaiFromProgram_ = false;  // kai shows what a program run left
-    QString kaiText_;              // what a run set last; drawn at the screen's pace
+    std::string kaiText_;          // what a run set last; drawn at the screen's pace
     bool kaiPending_ = false;      // kaiText_ is not drawn yet
-    int historyRow_ = -1;          // the entry Up and Down last recalled
+    double meterValue_ = 0.0;      // where a run moved the meter; drawn at the same pace
+    bool meterPending_ = false;
+    int historyRow_ = -1;  // the entry Up and Down last recalled
     bool messageWaiting_ = false;
     bool stopRequested_ = false;
     bool stopPressed_ = false;  // the stop button ended the present run
@@ -253,9 +259,11 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     bool keyboardBeforeProgress_ = false;
     std::int16_t runningPage_ = -1;
     std::int16_t runningLine_ = -1;
-    std::int16_t listEntry_ = -1;  // the execution list entry to select, -1 for none
-    static constexpr qint64 kEventIntervalMs = 20;
-    QElapsedTimer eventClock_;              // since window events last ran
+    std::int16_t listEntry_ = -1;           // the execution list entry to select, -1 for none
+    ScreenPace eventPace_{20};              // when window events run during a run
+    ScreenPace progressPace_{20};           // when the progress view comes
+    bool progressWanted_ = false;           // the transform is making its data
+    bool progressShown_ = false;            // and the progress view is in place
     QPointer<QWidget> focusBeforeMessage_;  // gets the focus back after a message
     QString programFileName_;
     TransformPartner* tesmorPartner_ = nullptr;

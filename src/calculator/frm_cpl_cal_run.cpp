@@ -77,6 +77,7 @@ void FrmCplCal::BeginRun() {
 
 void FrmCplCal::EndRun() {
     ShowKai();           // how the run ended, whatever the pace skipped
+    ShowMeter();         // how far it came
     ShowRunningPlace();  // and where
     listEntry_ = -1;
     running_ = false;
@@ -177,7 +178,7 @@ void FrmCplCal::SelectProgramListEntry(std::int16_t index) {
 // transform samples the program) are shown at the screen's pace and when
 // the run ends or a message shows, not each on its own.
 void FrmCplCal::SetKai(const std::string& text) {
-    kaiText_ = QString::fromStdString(text);
+    kaiText_ = text;
     kaiPending_ = true;
     kaiFromProgram_ = true;
     if (!interpreter_.Busy()) ShowKai();
@@ -186,11 +187,10 @@ void FrmCplCal::SetKai(const std::string& text) {
 void FrmCplCal::ShowKai() {
     if (!kaiPending_) return;
     kaiPending_ = false;
-    kai_->SetFullText(kaiText_);
+    kai_->SetFullText(QString::fromStdString(kaiText_));
 }
 
 void FrmCplCal::SetKaiText(const QString& text) {
-    kaiText_ = text;
     kaiPending_ = false;
     kai_->SetFullText(text);
 }
@@ -219,27 +219,50 @@ void FrmCplCal::ClearMemoryDisplay() {
     memory_->ClearDisplay();
 }
 
+// A reset shows at once; the meter moves (once per sample of a transform)
+// at the screen's pace inside a run, and at once outside one.
 void FrmCplCal::CalProcMeter(double value, bool reset) {
-    emit meterChanged(value, reset);
     if (reset) {
+        meterPending_ = false;
+        emit meterChanged(value, reset);
         meter_->Reset(value);
-        prgRningBox_->show();
+        if (!progressWanted_) prgRningBox_->show();  // else with the progress view
         return;
     }
-    meter_->Advance(value);
+    meterValue_ = value;
+    meterPending_ = true;
+    if (!running_) ShowMeter();
     ProcessEvents();
 }
 
-// A program asks for window events at every statement; repainting the
-// window that often costs far more than the statements themselves, so the
-// events run at most every kEventIntervalMs (the stop button is still seen
-// at once to the eye).
+void FrmCplCal::ShowMeter() {
+    if (!meterPending_) return;
+    meterPending_ = false;
+    emit meterChanged(meterValue_, false);
+    meter_->Advance(meterValue_);
+}
+
+// A run asks for window events again and again; repainting the window that
+// often costs far more than the statements themselves, so the events, and
+// what the run shows, come at the screen's pace (the stop button is still
+// seen at once to the eye).
 void FrmCplCal::ProcessEvents() {
-    if (eventClock_.isValid() && eventClock_.elapsed() < kEventIntervalMs) return;
+    if (!eventPace_.Due()) return;
+    if (progressWanted_ && !progressShown_ && progressPace_.Due()) {
+        SetProgressView(true);
+        progressShown_ = true;
+    }
     ShowKai();
+    ShowMeter();
     if (running_) ShowRunningPlace();
     QCoreApplication::processEvents();
-    eventClock_.start();
+}
+
+void FrmCplCal::ShowTransformProgress(bool on) {
+    if (on) progressPace_.Start();
+    if (!on && progressShown_) SetProgressView(false);
+    progressWanted_ = on;
+    progressShown_ = false;
 }
 
 void FrmCplCal::SetProgressView(bool on) {

@@ -18,6 +18,7 @@
 #include <cmath>
 
 #include "calculator/frm_cpl_cal.h"
+#include "calculator/screen_pace.h"
 #include "transform/accurate/accuracy_messages.h"
 #include "transform/ldt_file.h"
 #include "transform/program/program_function.h"
@@ -31,6 +32,9 @@
 namespace lapdesk {
 
 namespace {
+
+// How often a drawing in progress is shown while it goes on.
+constexpr std::int64_t kDrawingRepaintMs = 40;
 
 const QString kWritingResultText =
     QStringLiteral("結果のテキストデータ作成中 もう一寸待ってね！！");
@@ -321,6 +325,10 @@ void TesmorForm::DrawContent(std::string_view name, bool result) {
     ScrnPlot::DrawControl control;
     control.keepDrawing = [this, shown] { return nowDispLb_->text() == shown; };
     control.letEventsRun = [] { QCoreApplication::processEvents(); };
+    // A drawing shorter than the screen's pace shows once, when it is done.
+    ScreenPace pace(kDrawingRepaintMs);
+    pace.Start();
+    control.repaintDue = [&pace] { return pace.Due(); };
     const bool drawn = scrn_->Draw(result ? ResultContent(driver_) : DataContent(driver_), control);
     if (drawn && result) accuracy_->Decorate(driver_);
 }

@@ -47,6 +47,11 @@ ScrnPlot::ScrnPlot(QWidget* parent) : QCustomPlot(parent) {
 }
 
 void ScrnPlot::ClearScreen(double tEnd) {
+    Clear(tEnd);
+    replot();
+}
+
+void ScrnPlot::Clear(double tEnd) {
     ++generation_;
     for (QCPAxis* axis : {xAxis, yAxis}) {
         if (axis->scaleType() == QCPAxis::stLinear) continue;
@@ -57,7 +62,6 @@ void ScrnPlot::ClearScreen(double tEnd) {
     clearItems();
     view_ = PlotView::None;
     SetAxes(EmptyContent(tEnd));
-    replot();
 }
 
 void ScrnPlot::SetAxes(const PlotContent& content) {
@@ -106,7 +110,7 @@ void ScrnPlot::AddCurves(const PlotContent& content) {
 }
 
 bool ScrnPlot::Draw(const PlotContent& content, const DrawControl& control) {
-    ClearScreen(content.x.upper);
+    Clear(content.x.upper);  // shown with the first part of the new drawing
     const unsigned generation = generation_;
     view_ = content.view;
     SetAxes(content);
@@ -122,7 +126,7 @@ bool ScrnPlot::Draw(const PlotContent& content, const DrawControl& control) {
             graph(static_cast<int>(c))->addData(content.curves[c].x[k], content.curves[c].y[k]);
         }
         if (control.letEventsRun && (k + 1) % chunk == 0) {
-            replot();
+            if (!control.repaintDue || control.repaintDue()) replot();
             control.letEventsRun();
             if (generation != generation_) return false;
         }

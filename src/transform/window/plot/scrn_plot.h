@@ -28,6 +28,9 @@ class ScrnPlot : public QCustomPlot {
     struct DrawControl {
         std::function<bool()> keepDrawing;
         std::function<void()> letEventsRun;
+        // Whether the part drawn so far is to be shown before events run;
+        // always, when not set.
+        std::function<bool()> repaintDue;
     };
 
     explicit ScrnPlot(QWidget* parent = nullptr);
@@ -50,6 +53,8 @@ class ScrnPlot : public QCustomPlot {
     void ShowLogTime(double from, double to, double fLow, double fHigh, bool logF);
 
   private:
+    // ClearScreen without showing it.
+    void Clear(double tEnd);
     void SetAxes(const PlotContent& content);
     void AddCurves(const PlotContent& content);
 
