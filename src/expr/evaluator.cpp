@@ -83,42 +83,36 @@ bool Evaluator::EvalSum(std::string_view& text, Complex& value) {
 }
 
 bool Evaluator::EvalSum(const SumScan& scan, Complex& value) {
-    const ScanCache::Evaluating evaluating(scope_.Scans());
     Complex result;
     if (!EvalScannedSum(scan, result)) return false;
     value = result;
     return true;
 }
 
-// sum -> [+|-] term { (+|-) term }
+// sum -> [+|-] term { (+|-) term }, by the sum's compiled steps.
 bool Evaluator::EvalScannedSum(const SumScan& scan, Complex& value) {
     NestingGuard guard;
     if (scan.bracketDepth > kMaxBracketDepth || !guard.Admits(scan.bracketDepth)) {
         return Fail(std::string(kTooDeep));
     }
-    if (scan.sum.empty) return false;
-    if (const FlatSum* flat = scan.flat.Get(scan)) return EvalFlatSum(*flat, value);
-    value = {};
-    for (std::size_t t = 0; t < scan.sum.count; ++t) {
-        Complex v;
-        if (!EvalScannedTerm(scan, t, v)) return false;
-        ApplyOperator(scan.terms[t].op, value, v);
+    const SumCode& code = scan.code.Get(scan);
+    if (code.stackDepth <= OperandStack::kInPlace) {
+        OperandStack stack;
+        return RunSumCode(code, stack.items, value);
     }
-    if (scan.sum.unbalancedAfter) return Fail(std::string(kBrackets));
-    return true;
+    std::vector<Complex> stack(code.stackDepth);
+    return RunSumCode(code, stack.data(), value);
 }
 
-// The descent's work on a sum of numbers, plain names and brackets, step by
-// step: the same reads, operators and stop polls in the same order.
-bool Evaluator::EvalFlatSum(const FlatSum& flat, Complex& value) {
-    Complex stack[FlatSum::kMaxStack];
+// One pass over the steps; a step that fails ends the sum.
+bool Evaluator::RunSumCode(const SumCode& code, Complex* stack, Complex& value) {
     std::size_t top = 0;
-    for (const FlatStep& step : flat.steps) {
+    for (const SumStep& step : code.steps) {
         switch (step.kind) {
-            case FlatStep::Kind::Sign:
+            case SumStep::Kind::Sign:
                 if (step.op == '+') {
-                    // 0 + x as the descent adds it (-0 becomes +0); a stored
-                    // value is finite, so the sum needs no overflow check.
+                    // 0 + x as the operator adds it (-0 becomes +0); a value
+                    // is finite, so the sum needs no overflow check.
                     stack[top - 1] = {0.0 + stack[top - 1].Re, 0.0 + stack[top - 1].Im};
                 } else {
                     Complex zero;
@@ -126,13 +120,17 @@ bool Evaluator::EvalFlatSum(const FlatSum& flat, Complex& value) {
                     stack[top - 1] = zero;
                 }
                 break;
-            case FlatStep::Kind::Literal:
+            case SumStep::Kind::Apply:
+                --top;
+                ApplyOperator(step.op, stack[top - 1], stack[top]);
+                break;
+            case SumStep::Kind::Literal:
                 scope_.PollStop();
                 stack[top++] = step.literal;
                 break;
-            case FlatStep::Kind::Name: {
+            case SumStep::Kind::Name: {
                 scope_.PollStop();
-                const PrimaryScan& primary = *step.name;
+                const PrimaryScan& primary = *step.primary;
                 const NameWithSubscripts& target = primary.name;
                 if (!scope_.ReadVariable(*this, target.name, target.subscripts, primary.place,
                                          stack[top])) {
@@ -141,42 +139,20 @@ bool Evaluator::EvalFlatSum(const FlatSum& flat, Complex& value) {
                 ++top;
                 break;
             }
-            case FlatStep::Kind::Poll:
+            case SumStep::Kind::Poll:
                 scope_.PollStop();
                 break;
-            case FlatStep::Kind::Apply:
-                --top;
-                ApplyOperator(step.op, stack[top - 1], stack[top]);
+            case SumStep::Kind::Primary:
+                if (!EvalScannedPrimary(*step.primary, stack[top])) return false;
+                ++top;
                 break;
+            case SumStep::Kind::Fail:
+                return false;
+            case SumStep::Kind::FailBrackets:
+                return Fail(std::string(kBrackets));
         }
     }
     value = stack[0];
-    return true;
-}
-
-// term -> factor { (*|/) factor }
-bool Evaluator::EvalScannedTerm(const SumScan& scan, std::size_t term, Complex& value) {
-    const SumScan::Operand& t = scan.terms[term];
-    if (t.empty) return false;
-    for (std::size_t f = t.first; f < t.first + t.count; ++f) {
-        Complex v;
-        if (!EvalScannedFactor(scan, f, f == t.first ? value : v)) return false;
-        if (f != t.first) ApplyOperator(scan.factors[f].op, value, v);
-    }
-    if (t.unbalancedAfter) return Fail(std::string(kBrackets));
-    return true;
-}
-
-// factor -> primary { ^ primary }, left-associative: 2^3^2 is (2^3)^2
-bool Evaluator::EvalScannedFactor(const SumScan& scan, std::size_t factor, Complex& value) {
-    const SumScan::Operand& f = scan.factors[factor];
-    if (f.empty) return false;
-    for (std::size_t p = f.first; p < f.first + f.count; ++p) {
-        Complex v;
-        if (!EvalScannedPrimary(scan.primaries[p], p == f.first ? value : v)) return false;
-        if (p != f.first) ApplyOperator(scan.primaryOps[p], value, v);
-    }
-    if (f.unbalancedAfter) return Fail(std::string(kBrackets));
     return true;
 }
 

@@ -23,7 +23,8 @@ class Evaluator {
     // Syntax faults return false (see failure()); arithmetic faults raise
     // RuntimeFault, which the caller's boundary traps.
     bool EvalSum(std::string_view& text, Complex& value);
-    // A whole text by the scan its caller keeps for it (a KeptScan).
+    // A whole text by the scan its caller keeps for it (a KeptScan), which
+    // is not in the scope's store.
     bool EvalSum(const SumScan& scan, Complex& value);
 
     // A condition of dotted operators and their synonyms; truth in `truth`.
@@ -54,16 +55,20 @@ class Evaluator {
         const Entry* Find(std::string_view text) const;
     };
     class MemoScope;
+    // The operands of a sum's steps, left unset: most sums need a few.
+    struct OperandStack {
+        static constexpr std::size_t kInPlace = 16;
+        OperandStack() {}
+        union {
+            Complex items[kInPlace];
+        };
+    };
 
     bool Fail(std::string reason);
-    // The same levels on a text's scan (expression_scan.h). They build the
-    // value in `value` as they go (operands are passed through memory, and
-    // a copy of a value just written stalls the processor), so `value` is
-    // left in any state when they fail.
+    // A text's scan (expression_scan.h) evaluated by its compiled steps
+    // (sum_code.h); `value` is left in any state when they fail.
     bool EvalScannedSum(const SumScan& scan, Complex& value);
-    bool EvalFlatSum(const FlatSum& flat, Complex& value);
-    bool EvalScannedTerm(const SumScan& scan, std::size_t term, Complex& value);
-    bool EvalScannedFactor(const SumScan& scan, std::size_t factor, Complex& value);
+    bool RunSumCode(const SumCode& code, Complex* stack, Complex& value);
     bool EvalScannedPrimary(const PrimaryScan& scan, Complex& value);
     bool EvalScalarFunction(const FunctionCallScan& call, Complex& value);
     bool EvalMatrixFunction(const FunctionCallScan& call, Complex& value);

@@ -12,8 +12,8 @@
 #include <string_view>
 #include <vector>
 
-#include "expr/flat_sum.h"
 #include "expr/name_scope.h"
+#include "expr/sum_code.h"
 #include "expr/text_scan.h"
 #include "values/complex.h"
 
@@ -80,7 +80,7 @@ struct SumScan {
     std::vector<Operand> factors;  // each with its range of primaries
     std::vector<char> primaryOps;  // "^" or 0 before each primary
     std::vector<PrimaryScan> primaries;
-    FlatSlot flat;  // the same sum as steps, once it is evaluated again
+    SumCodeSlot code;  // the same sum as steps, once it is evaluated
 
   private:
     void ScanTerm(char op, std::string_view text);

@@ -52,8 +52,18 @@ class NameScope {
     virtual ScanCache& Scans() = 0;
 
     // Called at every primary, so that a stop request can end the work of
-    // one long expression; a scope that honours one raises its own signal.
-    virtual void PollStop() {}
+    // one long expression: every kPollInterval calls the scope may look at
+    // its stop request (StopPoint) and raise its own signal.
+    void PollStop() {
+        if (++polls_ % kPollInterval == 0) StopPoint();
+    }
+
+  protected:
+    static constexpr unsigned kPollInterval = 1024;
+    virtual void StopPoint() {}
+
+  private:
+    unsigned polls_ = 0;
 };
 
 }  // namespace lapdesk

@@ -112,8 +112,10 @@ class ClsCode : public NameScope {
     bool CallUserFunction(Evaluator& evaluator, std::string_view call, Complex& value) override;
     bool CallMatrixFunction(std::size_t index, std::span<const std::string_view> arguments,
                             Complex& value) override;
-    void PollStop() override;
     ScanCache& Scans() override;
+
+  protected:
+    void StopPoint() override { CheckStop(); }
 
   private:
     enum class Flow { Normal, End, Fail };  // End: the page finished early (End, Return)

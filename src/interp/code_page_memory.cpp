@@ -275,10 +275,6 @@ ScanCache& ClsCode::Scans() {
     return session_.Scans();
 }
 
-void ClsCode::PollStop() {
-    if (session_.PollDue()) CheckStop();
-}
-
 void ClsCode::CheckStop() {
     // Events run only inside a program run, where the window expects them.
     if (session_.Busy()) LetEventsRun();

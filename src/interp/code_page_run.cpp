@@ -81,7 +81,7 @@ bool ClsCode::APc02CodeExecute(double& re, double& im) {
         RunningFrame frame(runningFrames_);
         std::int16_t line = 0;
         currentLine_ = -1;
-        flow = RunLoop(line, 0, Sub16(LineNum(), 1));
+        if (!session_.view().StopRequested()) flow = RunLoop(line, 0, Sub16(LineNum(), 1));
     } catch (const StopRequest&) {
         return false;  // every level returns quietly: the stop request stays set
     } catch (const RuntimeFault& error) {
@@ -105,12 +105,15 @@ bool ClsCode::APc02CodeExecute(double& re, double& im) {
 }
 
 ClsCode::Flow ClsCode::RunLoop(std::int16_t& line, std::int16_t first, std::int16_t last) {
-    InterpreterView& view = session_.view();
+    // A stop request can only have come while events ran (or before the
+    // page started), so it is looked at then.
     for (line = first; line >= first && line <= last; line = Add16(line, 1)) {
-        if (view.StopRequested()) return Flow::Fail;
         currentLine_ = line;
         session_.NoteStatement(pageIndex_, line);
-        if (session_.PollDue()) LetEventsRun();
+        if (session_.PollDue()) {
+            LetEventsRun();
+            if (session_.view().StopRequested()) return Flow::Fail;
+        }
         const Flow flow = Dispatch(line);
         if (flow != Flow::Normal) return flow;
     }
