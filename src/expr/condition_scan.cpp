@@ -16,9 +16,32 @@ std::string_view OperatorAt(std::string_view text) {
     return {};
 }
 
+// The text inside the bracket pairs that enclose all of it: "((a) .Or. b)"
+// gives "(a) .Or. b". Trying ((c)) as an expression fails exactly as trying
+// c does, so an operand is tried once, not once per bracket pair.
+std::string_view WithoutEnclosingBrackets(std::string_view text) {
+    text = Trim(text);
+    while (text.size() >= 2 && BracketClosesAtEnd(text, 0)) {
+        text = Trim(text.substr(1, text.size() - 2));
+    }
+    return text;
+}
+
 void AddOperand(std::string_view operand, std::vector<ConditionToken>& tokens) {
     operand = Trim(operand);
-    if (!operand.empty()) tokens.push_back({false, operand});
+    if (operand.empty()) return;
+    ConditionToken token;
+    token.text = operand;
+    token.inside = WithoutEnclosingBrackets(operand);
+    token.operand.emplace(token.inside);
+    tokens.push_back(std::move(token));
+}
+
+void AddOperator(std::string_view op, std::vector<ConditionToken>& tokens) {
+    ConditionToken token;
+    token.isOperator = true;
+    token.text = op;
+    tokens.push_back(std::move(token));
 }
 
 // Cuts the condition at its dotted operators outside brackets.
@@ -32,7 +55,7 @@ bool Tokenize(std::string_view s, std::vector<ConditionToken>& tokens) {
         const std::string_view op = OperatorAt(s.substr(i));
         if (op.empty()) continue;
         AddOperand(s.substr(start, i - start), tokens);
-        tokens.push_back({true, op});
+        AddOperator(op, tokens);
         i += op.size() - 1;
         start = i + 1;
     }

@@ -71,17 +71,6 @@ bool Apply(std::string_view op, std::vector<Operand>& operands) {
 
 constexpr std::string_view kTop = "@Top@";
 
-// The text inside the bracket pairs that enclose all of it: "((a) .Or. b)"
-// gives "(a) .Or. b". Trying ((c)) as an expression fails exactly as trying
-// c does, so an operand is tried once, not once per bracket pair.
-std::string_view WithoutEnclosingBrackets(std::string_view text) {
-    text = Trim(text);
-    while (text.size() >= 2 && BracketClosesAtEnd(text, 0)) {
-        text = Trim(text.substr(1, text.size() - 2));
-    }
-    return text;
-}
-
 }  // namespace
 
 std::string ReplaceSynonyms(std::string_view condition) {
@@ -107,11 +96,14 @@ std::string ReplaceSynonyms(std::string_view condition) {
 // condition -> operand { op operand } with ".Not." as a prefix; operators
 // wait on a stack above the "@Top@" marker until a weaker one arrives.
 bool Evaluator::EvalCondition(std::string_view text, bool& truth) {
-    NestingGuard guard;
     ScanCache& cache = scope_.Scans();
     const ScanCache::Evaluating evaluating(cache);
     std::optional<ConditionScan> fresh;
-    const ConditionScan& scan = cache.Condition(text, fresh);
+    return EvalCondition(cache.Condition(text, fresh), truth);
+}
+
+bool Evaluator::EvalCondition(const ConditionScan& scan, bool& truth) {
+    NestingGuard guard;
     if (!guard.Admits(scan.bracketDepth)) return Fail("式の入れ子が深すぎます");
     if (!scan.bracketsBalance) return Fail("括弧が対応していません");
     std::vector<std::string_view> ops{kTop};
@@ -121,15 +113,16 @@ bool Evaluator::EvalCondition(std::string_view text, bool& truth) {
         if (!token.isOperator) {
             if (!expectOperand) return false;
             Operand operand{};
-            const std::string_view inside = WithoutEnclosingBrackets(token.text);
-            std::string_view expression = inside;
             const std::string failureBefore = failure_;
-            if (!EvalSum(expression, operand.value)) {
+            Complex value;
+            if (EvalScannedSum(token.operand->Get(), value)) {
+                operand.value = value;
+            } else {
                 // A bracketed operand that is no expression is a condition.
-                if (inside.size() == token.text.size()) return false;
+                if (token.inside.size() == token.text.size()) return false;
                 failure_ = failureBefore;
                 bool inner = false;
-                if (!EvalCondition(inside, inner)) return false;
+                if (!EvalCondition(token.inside, inner)) return false;
                 operand.value = {inner ? 1.0 : 0.0, 0.0};
             }
             operand.truth = operand.value.Re != 0.0;

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "expr/condition_scan.h"
 #include "expr/expression_scan.h"
 #include "expr/name_scope.h"
 #include "values/complex.h"
@@ -29,6 +30,8 @@ class Evaluator {
 
     // A condition of dotted operators and their synonyms; truth in `truth`.
     bool EvalCondition(std::string_view text, bool& truth);
+    // A condition by the scan its caller keeps for it (a KeptScan).
+    bool EvalCondition(const ConditionScan& scan, bool& truth);
 
     NameScope& scope() { return scope_; }
 

@@ -166,8 +166,8 @@ class ClsCode : public NameScope {
     bool RunFor(std::int16_t& line, bool isNext);
     bool RunDo(std::int16_t& line, bool isLoop);
     Flow RunBranch(std::int16_t& line, const std::vector<std::int16_t>& boundaries,
-                   const std::vector<std::string>& conditions, std::int16_t branch);
-    bool Condition(std::string_view text, bool& truth);
+                   const std::vector<ConditionCode>& conditions, std::int16_t branch);
+    bool Condition(const KeptScan<ConditionScan>& condition, bool& truth);
     bool Assign(const StatementCode& code, Complex& assigned);
     // Tells the view of the failed statement, as its statement or as the
     // call argument that failed in it.

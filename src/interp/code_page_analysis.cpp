@@ -26,16 +26,16 @@ std::int16_t Count(std::size_t size) {
 }
 
 // [While cond | Until cond] after Do or Loop.
-bool ConditionWord(std::string_view rest, StatementKind& word, std::string& condition) {
+bool ConditionWord(std::string_view rest, StatementKind& word, ConditionCode& condition) {
     std::string_view after;
     const StatementKind code = ClassifyStatement(rest, after);
     if (code == kw::While || code == kw::Until) {
         word = code;
-        condition = std::string(after);
+        condition = ScanCondition(after);
         return !Trim(after).empty();
     }
     word = kw::NoKeyword;
-    condition.clear();
+    condition.reset();
     return Trim(rest).empty();
 }
 
@@ -120,6 +120,7 @@ bool ClsCode::AnalyseLine(std::int16_t& i) {
     NestingGuard guard;
     if (!guard.ok()) return Fail(RuntimeFault(FaultCode::StackSpace).description());
     lines_[static_cast<std::size_t>(i)].Kind = kw::NoKeyword;
+    lines_[static_cast<std::size_t>(i)].Value.reset();
     const std::string text = lines_[static_cast<std::size_t>(i)].Text;
     std::string_view rest;
     const StatementKind code = ClassifyStatement(text, rest);
@@ -166,6 +167,11 @@ bool ClsCode::AnalyseLine(std::int16_t& i) {
         case kw::ExitDo:
             return AnalyseExit(i, code);
         case kw::Return:
+            // The value starts at the eighth character, after "Return ".
+            lines_[static_cast<std::size_t>(i)].Value =
+                ScanExpression(TrimLeft(text.size() > 7 ? std::string_view(text).substr(7) : ""));
+            MarkLine(i, code, kNoEntry, kNoEntry);
+            return true;
         case kw::Function:
         case kw::ExitFunction:
             MarkLine(i, code, kNoEntry, kNoEntry);
@@ -181,6 +187,7 @@ bool ClsCode::AnalyseLine(std::int16_t& i) {
     }
     std::int16_t entry = 0;
     if (AnalyseCall(text, entry)) {
+        lines_[static_cast<std::size_t>(i)].Value = ScanExpression(text);
         MarkLine(i, kw::BareCall, entry, kNoEntry);
         return true;
     }
@@ -220,7 +227,7 @@ bool ClsCode::AnalyseAssignment(std::string_view text, bool& isAssignment) {
         if (parsed.subscripts.size() > 1) code.Subscript2 = parsed.subscripts[1];
     }
     RequireRoomForOneMore(Count(statements_.size()));
-    code.ExpressionScan = std::make_shared<const KeptScan<SumScan>>(code.Expression);
+    code.ExpressionScan = ScanExpression(code.Expression);
     statements_.push_back(std::move(code));
     return true;
 }
@@ -235,9 +242,9 @@ bool ClsCode::AnalyseFor(std::int16_t& i, std::string_view rest) {
     const std::size_t step = FindWordNoCase(range, "Step");
     ForBlock block;
     block.ForLine = i;
-    block.StartText = std::string(Trim(rest.substr(equals + 1, to - 1 - equals - 1)));
-    block.EndText = std::string(Trim(step == 0 ? range : range.substr(0, step - 1)));
-    block.StepText = step == 0 ? "1" : std::string(Trim(range.substr(step - 1 + 4)));
+    block.Start = ScanExpression(Trim(rest.substr(equals + 1, to - 1 - equals - 1)));
+    block.End = ScanExpression(Trim(step == 0 ? range : range.substr(0, step - 1)));
+    block.Step = ScanExpression(step == 0 ? "1" : Trim(range.substr(step - 1 + 4)));
     if (!IsValidName(name) || ReportReserved(name)) return Fail("For文");
     block.VariableIndex = -1;
     for (std::int16_t k = 0; k < NumofMemory(); ++k) {
@@ -307,11 +314,12 @@ bool ClsCode::AnalyseExit(std::int16_t i, StatementKind code) {
 namespace {
 
 // The condition before "Then"; nothing may follow "Then" on the line.
-bool ThenCondition(std::string_view rest, std::string& condition) {
+bool ThenCondition(std::string_view rest, ConditionCode& condition) {
     const std::size_t then = FindWordNoCase(rest, "Then");
     if (then == 0 || !Trim(rest.substr(then - 1 + 4)).empty()) return false;
-    condition = std::string(Trim(rest.substr(0, then - 1)));
-    return !condition.empty();
+    const std::string_view text = Trim(rest.substr(0, then - 1));
+    condition = ScanCondition(text);
+    return !text.empty();
 }
 
 }  // namespace
@@ -319,7 +327,7 @@ bool ThenCondition(std::string_view rest, std::string& condition) {
 // If cond Then ... [ElseIf cond Then ...] [Else ...] End If
 bool ClsCode::AnalyseIf(std::int16_t& i, std::string_view rest) {
     IfBlock block;
-    std::string condition;
+    ConditionCode condition;
     if (!ThenCondition(rest, condition)) return Fail("IF文判別式");
     block.Conditions.push_back(condition);
     const std::int16_t entry = Count(ifs_.size());
@@ -341,7 +349,7 @@ bool ClsCode::AnalyseIf(std::int16_t& i, std::string_view rest) {
             MarkLine(i, code, entry, branch);
             if (code == kw::EndIf) return true;
             if (code == kw::Else) {
-                open.Conditions.emplace_back(kUnconditional);
+                open.Conditions.emplace_back();
             } else if (ThenCondition(after, condition)) {
                 open.Conditions.push_back(condition);
             } else {
@@ -383,7 +391,7 @@ bool ClsCode::AnalyseSelect(std::int16_t& i, std::string_view rest) {
         MarkLine(i, code, entry, Count(open.Conditions.size()));
         if (code == kw::EndSelect) return true;
         if (code == kw::CaseElse) {
-            open.Conditions.emplace_back(kUnconditional);
+            open.Conditions.emplace_back();
             continue;
         }
         // Case 1, 3 tests selector=1 Or selector=3; a value with "=" in it
@@ -400,7 +408,7 @@ bool ClsCode::AnalyseSelect(std::int16_t& i, std::string_view rest) {
             if (value.find('=') == std::string_view::npos) condition += "=";
             condition += value;
         }
-        open.Conditions.push_back(condition);
+        open.Conditions.push_back(ScanCondition(condition));
     }
 }
 

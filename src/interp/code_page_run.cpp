@@ -127,6 +127,7 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
     const StatementKind kind = stored.Kind;
     const std::int16_t link = stored.Link;
     const auto index = static_cast<std::size_t>(stored.CodeIndex);
+    const KeptScan<SumScan>* value = stored.Value.get();  // Return and bare call
     ClearErrorText();
     bool ok = true;
     Evaluator evaluator(*this);
@@ -174,22 +175,13 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
             if (flow == Flow::End) return flow;
             break;
         }
-        case kw::Return: {
-            // The value starts at the eighth character, after "Return ".
-            const std::string statement = stored.Text;
-            std::string_view text =
-                statement.size() > 7 ? std::string_view(statement).substr(7) : "";
-            text = TrimLeft(text);
-            if (evaluator.EvalSum(text, valueArea_)) return Flow::End;
+        case kw::Return:
+            if (evaluator.EvalSum(value->scan, valueArea_)) return Flow::End;
             ok = false;
             break;
-        }
-        case kw::BareCall: {
-            const std::string statement = stored.Text;
-            std::string_view text = statement;
-            ok = evaluator.EvalSum(text, valueArea_);
+        case kw::BareCall:
+            ok = evaluator.EvalSum(value->scan, valueArea_);
             break;
-        }
         case kw::Assignment: {
             Complex assigned;
             ok = Assign(statements_[index], assigned);
@@ -230,10 +222,8 @@ bool ClsCode::RunFor(std::int16_t& line, bool isNext) {
     }
     Evaluator evaluator(*this);
     Complex start, end, step;
-    std::string_view startText = block.StartText, endText = block.EndText,
-                     stepText = block.StepText;
-    if (!evaluator.EvalSum(startText, start) || !evaluator.EvalSum(endText, end) ||
-        !evaluator.EvalSum(stepText, step)) {
+    if (!evaluator.EvalSum(block.Start->scan, start) || !evaluator.EvalSum(block.End->scan, end) ||
+        !evaluator.EvalSum(block.Step->scan, step)) {
         if (errorText_.empty()) SetErrorText(evaluator.failure());
         return false;
     }
@@ -251,11 +241,9 @@ bool ClsCode::RunFor(std::int16_t& line, bool isNext) {
 bool ClsCode::RunDo(std::int16_t& line, bool isLoop) {
     const DoBlock& block = dos_[static_cast<std::size_t>(Line(line).CodeIndex)];
     const StatementKind word = isLoop ? block.LoopWord : block.DoWord;
+    const ConditionCode& condition = isLoop ? block.LoopCondition : block.DoCondition;
     bool truth = false;
-    if (word != kw::NoKeyword &&
-        !Condition(isLoop ? block.LoopCondition : block.DoCondition, truth)) {
-        return false;
-    }
+    if (word != kw::NoKeyword && !Condition(*condition, truth)) return false;
     const bool whileHolds = word == kw::NoKeyword || (word == kw::While) == truth;
     if (!isLoop && !whileHolds) line = block.LoopLine;
     if (isLoop && whileHolds) line = Sub16(block.DoLine, 1);
@@ -265,10 +253,12 @@ bool ClsCode::RunDo(std::int16_t& line, bool isLoop) {
 // Runs branch `branch` when its condition holds and then leaves the block;
 // otherwise moves to the next boundary line so its condition is tried next.
 ClsCode::Flow ClsCode::RunBranch(std::int16_t& line, const std::vector<std::int16_t>& boundaries,
-                                 const std::vector<std::string>& conditions, std::int16_t branch) {
+                                 const std::vector<ConditionCode>& conditions,
+                                 std::int16_t branch) {
     const auto k = static_cast<std::size_t>(branch);
-    bool taken = conditions[k] == kUnconditional;
-    if (!taken && !Condition(conditions[k], taken)) return Flow::Fail;
+    const ConditionCode& condition = conditions[k];
+    bool taken = condition == nullptr;
+    if (!taken && !Condition(*condition, taken)) return Flow::Fail;
     if (!taken) {
         line = Sub16(boundaries[k], 1);
         return Flow::Normal;
@@ -286,9 +276,9 @@ ClsCode::Flow ClsCode::RunBranch(std::int16_t& line, const std::vector<std::int1
     return Flow::Normal;
 }
 
-bool ClsCode::Condition(std::string_view text, bool& truth) {
+bool ClsCode::Condition(const KeptScan<ConditionScan>& condition, bool& truth) {
     Evaluator evaluator(*this);
-    if (evaluator.EvalCondition(text, truth)) return true;
+    if (evaluator.EvalCondition(condition.scan, truth)) return true;
     if (errorText_.empty()) SetErrorText(evaluator.failure());
     return false;
 }

@@ -5,8 +5,10 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "expr/condition_scan.h"
 #include "expr/expression_scan.h"
 #include "expr/keywords.h"
 #include "expr/scan_cache.h"
@@ -66,6 +68,17 @@ inline constexpr std::int16_t kNoEntry = -999;
 // The page index of the immediate page, whose memory is the global memory.
 inline constexpr std::int16_t kImmediatePageIndex = -1;
 
+// A statement's expression or condition with its scan, made once by
+// analysis so that every run evaluates the same scan.
+using ExpressionCode = std::shared_ptr<const KeptScan<SumScan>>;
+using ConditionCode = std::shared_ptr<const KeptScan<ConditionScan>>;
+inline ExpressionCode ScanExpression(std::string_view text) {
+    return std::make_shared<const KeptScan<SumScan>>(text);
+}
+inline ConditionCode ScanCondition(std::string_view text) {
+    return std::make_shared<const KeptScan<ConditionScan>>(text);
+}
+
 // One stored statement and what analysis found out about it.
 struct CodeLine {
     std::string Text;
@@ -73,6 +86,7 @@ struct CodeLine {
     StatementKind Kind = StatementKind::NoKeyword;  // NoKeyword until analysed
     std::int16_t CodeIndex = kNoEntry;              // entry in the table of its kind
     std::int16_t Link = kNoEntry;                   // branch number inside If / Select Case
+    ExpressionCode Value{};                         // of Return and of a bare call
 };
 
 // An analysed assignment.
@@ -83,9 +97,8 @@ struct StatementCode {
     std::string Subscript1;
     std::string Subscript2;
     std::string Expression;
-    // Made by analysis, so that every run evaluates the same scan; a
-    // statement made for one immediate line has none.
-    std::shared_ptr<const KeptScan<SumScan>> ExpressionScan;
+    // A statement made for one immediate line has none.
+    ExpressionCode ExpressionScan;
 };
 
 struct ForBlock {
@@ -95,35 +108,33 @@ struct ForBlock {
     double EndValue = 0.0;
     double StepValue = 0.0;
     std::int16_t VariableIndex = 0;
-    std::string StartText;
-    std::string EndText;
-    std::string StepText;
+    ExpressionCode Start;
+    ExpressionCode End;
+    ExpressionCode Step;
 };
 
 struct DoBlock {
     std::int16_t DoLine = 0;
     std::int16_t LoopLine = -1;
     kw DoWord = kw::NoKeyword;  // While, Until or NoKeyword
-    std::string DoCondition;
+    ConditionCode DoCondition;  // none without a word
     kw LoopWord = kw::NoKeyword;
-    std::string LoopCondition;
+    ConditionCode LoopCondition;
 };
 
 // If and Select Case: the later boundary lines of the block (each ElseIf,
 // Else / Case, Case Else, and last the closing line) and one condition per
-// branch, "..." for the unconditional one.
+// branch, none for the unconditional one.
 struct IfBlock {
     std::vector<std::int16_t> Boundaries;
-    std::vector<std::string> Conditions;
+    std::vector<ConditionCode> Conditions;
 };
 
 struct SelectBlock {
     std::string Selector;
     std::vector<std::int16_t> Boundaries;
-    std::vector<std::string> Conditions;
+    std::vector<ConditionCode> Conditions;
 };
-
-inline constexpr std::string_view kUnconditional = "...";
 
 // One argument of a call, and one parameter slot of a function page (the
 // same layout, so a call's argument is copied into the callee's slot).
