@@ -131,6 +131,10 @@ bool Evaluator::RunSumCode(const SumCode& code, Complex* stack, Complex& value) 
             case SumStep::Kind::Name: {
                 scope_.PollStop();
                 const PrimaryScan& primary = *step.primary;
+                if (scope_.ReadKnown(primary.place, stack[top])) {
+                    ++top;
+                    break;
+                }
                 const NameWithSubscripts& target = primary.name;
                 if (!scope_.ReadVariable(*this, target.name, target.subscripts, primary.place,
                                          stack[top])) {

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "values/complex.h"
 
@@ -28,7 +29,22 @@ class NameScope {
         std::int16_t index = -1;
         std::int16_t slot = -1;
         std::uint8_t kind = 0;  // what the scope found there, in its own terms
+        // A plain variable's values, once the scope has found one there: the
+        // evaluator reads them without asking (ReadKnown).
+        const std::vector<Complex>* values = nullptr;
     };
+
+    // The value of a plain name whose place holds its variable's values,
+    // read without asking the scope, for as long as the names have not
+    // changed since the scope filled the place in; false otherwise.
+    bool ReadKnown(const Place& place, Complex& value) const {
+        if (place.values == nullptr || place.scope != this || namesGeneration_ == nullptr ||
+            place.generation != *namesGeneration_ || place.values->empty()) {
+            return false;
+        }
+        value = place.values->front();
+        return true;
+    }
 
     // The value of a variable (no subscripts) or an array element (one or
     // two subscript texts, which the scope evaluates with `evaluator`; an
@@ -61,9 +77,13 @@ class NameScope {
   protected:
     static constexpr unsigned kPollInterval = 1024;
     virtual void StopPoint() {}
+    // The counter of name changes that places are checked against; a scope
+    // without one never fills in values.
+    void SetNamesGeneration(const std::uint64_t* generation) { namesGeneration_ = generation; }
 
   private:
     unsigned polls_ = 0;
+    const std::uint64_t* namesGeneration_ = nullptr;
 };
 
 }  // namespace lapdesk

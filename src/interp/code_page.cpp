@@ -19,6 +19,7 @@ constexpr std::string_view kStopped = "中断しました";
 }  // namespace
 
 ClsCode::ClsCode(Interpreter& session) : session_(session) {
+    SetNamesGeneration(session.NamesGenerationCounter());
     session_.NamesChanged();
 }
 

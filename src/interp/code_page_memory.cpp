@@ -228,7 +228,8 @@ bool ClsCode::ReadVariable(Evaluator& evaluator, std::string_view name,
         // first element, as Element reaches it.
         const auto* page = static_cast<const ClsCode*>(place.owner);
         if (page == nullptr || place.index < 0 || place.index >= page->NumofMemory()) return false;
-        value = page->memory_[static_cast<std::size_t>(place.index)].Values[0];
+        place.values = &page->memory_[static_cast<std::size_t>(place.index)].Values;
+        value = place.values->front();
         return true;
     }
     const Found found = Locate(name, place);

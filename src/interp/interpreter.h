@@ -43,6 +43,7 @@ class Interpreter {
     // option changed. Places kept by earlier reads are then searched again.
     void NamesChanged() { ++namesGeneration_; }
     std::uint64_t NamesGeneration() const { return namesGeneration_; }
+    const std::uint64_t* NamesGenerationCounter() const { return &namesGeneration_; }
 
     // The scans kept for the texts the session evaluates again and again.
     ScanCache& Scans() { return scans_; }
