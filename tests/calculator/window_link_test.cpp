@@ -1,5 +1,7 @@
 // The link to the transform window and the data-channel menus.
 #include <QMenu>
+#include <chrono>
+#include <thread>
 
 #include "window_fixture.h"
 
@@ -117,6 +119,26 @@ TEST_F(LinkTest, ProgressViewSwapsTheKeyboardForTheMeter) {
     EXPECT_FALSE(Find<QWidget>("FrameKeyBoard")->isVisible());
     EXPECT_FALSE(Find<QWidget>("PrgRningBox")->isHidden());
     window->SetProgressView(false);
+    EXPECT_TRUE(Find<QWidget>("FrameKeyBoard")->isVisible());
+    EXPECT_TRUE(Find<QWidget>("PrgRningBox")->isHidden());
+}
+
+// The transform's data creation asks for the progress view; it comes only
+// when the creation is still going one pace later, and a short creation
+// leaves the keyboard where it was.
+TEST_F(LinkTest, ProgressViewComesOnlyForADataCreationThatLasts) {
+    window->ShowTransformProgress(true);
+    window->ProcessEvents();
+    EXPECT_TRUE(Find<QWidget>("FrameKeyBoard")->isVisible()) << "a short creation";
+    EXPECT_TRUE(Find<QWidget>("PrgRningBox")->isHidden());
+    window->ShowTransformProgress(false);
+
+    window->ShowTransformProgress(true);
+    std::this_thread::sleep_for(std::chrono::milliseconds(60));  // past one pace
+    window->ProcessEvents();
+    EXPECT_FALSE(Find<QWidget>("FrameKeyBoard")->isVisible()) << "a lasting creation";
+    EXPECT_FALSE(Find<QWidget>("PrgRningBox")->isHidden());
+    window->ShowTransformProgress(false);
     EXPECT_TRUE(Find<QWidget>("FrameKeyBoard")->isVisible());
     EXPECT_TRUE(Find<QWidget>("PrgRningBox")->isHidden());
 }
