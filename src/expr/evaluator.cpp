@@ -64,6 +64,23 @@ bool Evaluator::EvalArgument(std::string_view text, Complex& value) {
     return ok;
 }
 
+bool Evaluator::EvalArgument(const SubscriptScan& subscript, Complex& value) {
+    ArgumentMemo* memo = memo_;
+    if (memo != nullptr) {
+        if (const ArgumentMemo::Entry* known = memo->Find(subscript.text)) {
+            if (known->ok) value = known->value;
+            return known->ok;
+        }
+    }
+    Complex result;
+    const bool ok = EvalScannedSum(subscript.scan.Get(), result);
+    if (ok) value = result;
+    if (memo != nullptr) {
+        memo->entries.push_back({std::string(subscript.text), ok, ok ? result : Complex{}});
+    }
+    return ok;
+}
+
 bool Evaluator::Fail(std::string reason) {
     if (failure_.empty()) failure_ = std::move(reason);
     return false;
@@ -136,7 +153,7 @@ bool Evaluator::RunSumCode(const SumCode& code, Complex* stack, Complex& value) 
                     break;
                 }
                 const NameWithSubscripts& target = primary.name;
-                if (!scope_.ReadVariable(*this, target.name, target.subscripts, primary.place,
+                if (!scope_.ReadVariable(*this, target.name, primary.subscripts, primary.place,
                                          stack[top])) {
                     return FailUnknownName(target);
                 }
@@ -214,7 +231,7 @@ bool Evaluator::EvalNamed(const PrimaryScan& scan, Complex& value) {
     }
     if (!scan.isName) return false;
     const NameWithSubscripts& target = scan.name;
-    if (scope_.ReadVariable(*this, target.name, target.subscripts, scan.place, value)) return true;
+    if (scope_.ReadVariable(*this, target.name, scan.subscripts, scan.place, value)) return true;
     return FailUnknownName(target);
 }
 

@@ -41,6 +41,8 @@ class Evaluator {
     // (or failures) of the call's arguments are reused for the subscripts, so
     // that nested primaries cost linear, not exponential, work.
     bool EvalArgument(std::string_view text, Complex& value);
+    // The same for a subscript by its scan.
+    bool EvalArgument(const SubscriptScan& subscript, Complex& value);
 
     // Why the last evaluation failed, for the user's message; empty when the
     // reason is only "not a valid expression".

@@ -70,6 +70,9 @@ void ScanChain(std::string_view text, std::string_view ops, SumScan::Operand& ch
 
 }  // namespace
 
+SubscriptScan::SubscriptScan(std::string_view subscript)
+    : text(Trim(subscript).empty() ? std::string_view("0") : Trim(subscript)), scan(text) {}
+
 const SumScan& LazySumScan::Get() const {
     if (!scan_) scan_ = std::make_shared<const SumScan>(text_);
     return *scan_;
@@ -139,6 +142,8 @@ PrimaryScan::PrimaryScan(std::string_view whole) : text(Trim(whole)) {
     if (TextToComplex(literalText, value)) literal = value;
     mayBeConstant = IsNamedConstant(text);
     isName = SplitNameAndSubscripts(text, name);
+    for (std::string_view subscript : name.subscripts)
+        subscripts.emplace_back(subscript);
     if (text.front() == '(' && BracketClosesAtEnd(text, 0))
         bracketed.emplace(text.substr(1, text.size() - 2));
 }

@@ -34,6 +34,14 @@ class LazySumScan {
     mutable std::shared_ptr<const SumScan> scan_;
 };
 
+// One subscript of an element Name(i) or Name(i, j) and its scan; an empty
+// subscript stands for "0".
+struct SubscriptScan {
+    explicit SubscriptScan(std::string_view subscript);
+    std::string_view text;  // trimmed: what the evaluator's argument memo knows it by
+    LazySumScan scan;
+};
+
 // A built-in scalar or matrix function call Name(arguments).
 struct FunctionCallScan {
     std::size_t row = 0;                      // in the scalar or matrix function table
@@ -54,8 +62,9 @@ struct PrimaryScan {
     bool mayBeConstant = false;
     bool isName = false;  // Name, Name(i) or Name(i,j)
     NameWithSubscripts name;
-    mutable NameScope::Place place;        // where the scope last found the name
-    std::optional<LazySumScan> bracketed;  // ( sum )
+    std::vector<SubscriptScan> subscripts;  // of name
+    mutable NameScope::Place place;         // where the scope last found the name
+    std::optional<LazySumScan> bracketed;   // ( sum )
 };
 
 // One bracket level of a text, every level's operands kept in one array:

@@ -13,6 +13,7 @@ namespace lapdesk {
 
 class Evaluator;
 class ScanCache;
+struct SubscriptScan;
 
 class NameScope {
   public:
@@ -47,11 +48,11 @@ class NameScope {
     }
 
     // The value of a variable (no subscripts) or an array element (one or
-    // two subscript texts, which the scope evaluates with `evaluator`; an
-    // empty subscript text counts as "0"). False when the name is unknown or
-    // a subscript fails. `place` is this primary's kept Place.
+    // two subscripts, which the scope evaluates with
+    // Evaluator::EvalArgument). False when the name is unknown or a
+    // subscript fails. `place` is this primary's kept Place.
     virtual bool ReadVariable(Evaluator& evaluator, std::string_view name,
-                              std::span<const std::string_view> subscripts, Place& place,
+                              std::span<const SubscriptScan> subscripts, Place& place,
                               Complex& value) = 0;
 
     // Runs the user function called by `call` (Name(arguments)) and gives its

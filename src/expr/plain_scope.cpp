@@ -21,7 +21,7 @@ void PlainScope::SetArray(const std::string& name, ComplexArray array) {
 }
 
 bool PlainScope::ReadVariable(Evaluator& evaluator, std::string_view name,
-                              std::span<const std::string_view> subscripts, Place& /*place*/,
+                              std::span<const SubscriptScan> subscripts, Place& /*place*/,
                               Complex& value) {
     const auto found = arrays_.find(name);
     if (found == arrays_.end() || subscripts.size() > 2) return false;
@@ -30,9 +30,8 @@ bool PlainScope::ReadVariable(Evaluator& evaluator, std::string_view name,
     // of a 2x2 array reaches element (0,1).
     long long index[2] = {0, 0};
     for (std::size_t k = 0; k < subscripts.size(); ++k) {
-        std::string_view text = Trim(subscripts[k]).empty() ? "0" : subscripts[k];
         Complex subscript;
-        if (!evaluator.EvalSum(text, subscript)) return false;
+        if (!evaluator.EvalArgument(subscripts[k], subscript)) return false;
         if (!(std::fabs(subscript.Re) < 2147483648.0)) return false;  // no int holds it
         index[k] = static_cast<long long>(subscript.Re);
     }

@@ -21,7 +21,7 @@ class PlainScope : public NameScope {
     const std::optional<ComplexArray>& lastArrayResult() const { return lastArray_; }
 
     bool ReadVariable(Evaluator& evaluator, std::string_view name,
-                      std::span<const std::string_view> subscripts, Place& place,
+                      std::span<const SubscriptScan> subscripts, Place& place,
                       Complex& value) override;
     bool CallUserFunction(Evaluator& evaluator, std::string_view call, Complex& value) override;
     bool CallMatrixFunction(std::size_t index, std::span<const std::string_view> arguments,

@@ -126,12 +126,9 @@ void ClsCode::ACalcuWithMemoryStore(std::string_view expression, std::string_vie
         StatementCode code{TargetKind::Memory,
                            index,
                            static_cast<std::int16_t>(parsed.subscripts.size()),
-                           "",
-                           "",
+                           std::make_shared<const TargetSubscripts>(parsed.subscripts),
                            std::string(Trim(expression)),
                            {}};
-        if (!parsed.subscripts.empty()) code.Subscript1 = parsed.subscripts[0];
-        if (parsed.subscripts.size() > 1) code.Subscript2 = parsed.subscripts[1];
         Complex assigned;
         ok = Assign(code, assigned);
         re = assigned.Re;

@@ -107,7 +107,7 @@ class ClsCode : public NameScope {
 
     // NameScope: how expressions on this page read names and call functions.
     bool ReadVariable(Evaluator& evaluator, std::string_view name,
-                      std::span<const std::string_view> subscripts, Place& place,
+                      std::span<const SubscriptScan> subscripts, Place& place,
                       Complex& value) override;
     bool CallUserFunction(Evaluator& evaluator, std::string_view call, Complex& value) override;
     bool CallMatrixFunction(std::size_t index, std::span<const std::string_view> arguments,
@@ -141,12 +141,15 @@ class ClsCode : public NameScope {
     Found Locate(std::string_view name, Place& place);
     // The variable a lookup refers to, and the parameter slot it went through.
     MemoryRec* Referent(const Found& found, CallArgument** slot);
+    // A subscript's value as a 16-bit index, from its scan or (for a call's
+    // argument and a Dim) from its text; an empty text counts as "0".
+    bool EvalSubscript(Evaluator& evaluator, const SubscriptScan& subscript, std::int16_t& index);
     bool EvalSubscript(Evaluator& evaluator, std::string_view text, std::int16_t& index);
     // The variable a lookup refers to and the flat index of the element its
     // subscripts address; nullptr when a subscript fails or the element
     // does not exist.
     MemoryRec* Element(Evaluator& evaluator, const Found& found,
-                       std::span<const std::string_view> subscripts, std::int32_t& flat);
+                       std::span<const SubscriptScan> subscripts, std::int32_t& flat);
 
     // Analysis (code_page_analysis.cpp).
     bool Fail(std::string reason);

@@ -202,7 +202,7 @@ bool ClsCode::AnalyseAssignment(std::string_view text, bool& isAssignment) {
     if (!isAssignment) return true;
     const std::string_view target = Trim(text.substr(0, equals));
     StatementCode code{
-        TargetKind::Result, 0, 0, "", "", std::string(Trim(text.substr(equals + 1))), {}};
+        TargetKind::Result, 0, 0, {}, std::string(Trim(text.substr(equals + 1))), {}};
     if (!SameName(target, pageName_, session_.caseSensitive())) {
         NameWithSubscripts parsed;
         if (!SplitNameAndSubscripts(target, parsed) || ReportReserved(parsed.name)) {
@@ -223,8 +223,7 @@ bool ClsCode::AnalyseAssignment(std::string_view text, bool& isAssignment) {
             return Fail("代入先が不正");
         }
         code.SubscriptCount = Count(parsed.subscripts.size());
-        if (!parsed.subscripts.empty()) code.Subscript1 = parsed.subscripts[0];
-        if (parsed.subscripts.size() > 1) code.Subscript2 = parsed.subscripts[1];
+        code.Subscripts = std::make_shared<const TargetSubscripts>(parsed.subscripts);
     }
     RequireRoomForOneMore(Count(statements_.size()));
     code.ExpressionScan = ScanExpression(code.Expression);

@@ -192,7 +192,14 @@ bool ClsCode::ReportReserved(std::string_view name) {
     return true;
 }
 
-// A subscript text's value as a 16-bit index; an empty text counts as "0".
+bool ClsCode::EvalSubscript(Evaluator& evaluator, const SubscriptScan& subscript,
+                            std::int16_t& index) {
+    Complex value;
+    if (!evaluator.EvalArgument(subscript, value)) return false;
+    index = RoundToInt16(value.Re);
+    return true;
+}
+
 bool ClsCode::EvalSubscript(Evaluator& evaluator, std::string_view text, std::int16_t& index) {
     if (Trim(text).empty()) text = "0";
     Complex value;
@@ -206,7 +213,7 @@ bool ClsCode::EvalSubscript(Evaluator& evaluator, std::string_view text, std::in
 // variable is looked at: one may run a function page whose analysis adds
 // variables, which moves every variable record.
 MemoryRec* ClsCode::Element(Evaluator& evaluator, const Found& found,
-                            std::span<const std::string_view> subscripts, std::int32_t& flat) {
+                            std::span<const SubscriptScan> subscripts, std::int32_t& flat) {
     std::int16_t index[2] = {0, 0};
     for (std::size_t k = 0; k < subscripts.size() && k < 2; ++k) {
         if (!EvalSubscript(evaluator, subscripts[k], index[k])) return nullptr;
@@ -221,7 +228,7 @@ MemoryRec* ClsCode::Element(Evaluator& evaluator, const Found& found,
 }
 
 bool ClsCode::ReadVariable(Evaluator& evaluator, std::string_view name,
-                           std::span<const std::string_view> subscripts, Place& place,
+                           std::span<const SubscriptScan> subscripts, Place& place,
                            Complex& value) {
     if (subscripts.empty() && place.slot < 0 && IsCurrent(place)) {
         // A plain name found before in memory (or not at all): the record's

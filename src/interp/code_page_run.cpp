@@ -342,10 +342,7 @@ bool ClsCode::Assign(const StatementCode& code, Complex& assigned) {
         flat = slot->Flat;
         if (flat > rec->Ln) return false;  // the array shrank while bound
     } else if (code.SubscriptCount > 0) {
-        const std::string_view subscripts[] = {code.Subscript1, code.Subscript2};
-        const std::span<const std::string_view> used(subscripts,
-                                                     static_cast<std::size_t>(code.SubscriptCount));
-        rec = Element(evaluator, target, used, flat);
+        rec = Element(evaluator, target, code.Subscripts->scans, flat);
         if (rec == nullptr) {
             if (errorText_.empty()) SetErrorText(evaluator.failure());
             return false;

@@ -89,13 +89,25 @@ struct CodeLine {
     ExpressionCode Value{};                         // of Return and of a bare call
 };
 
+// An assignment target's subscripts with their scans.
+struct TargetSubscripts {
+    explicit TargetSubscripts(const std::vector<std::string_view>& subscripts)
+        : texts(subscripts.begin(), subscripts.end()) {
+        for (const std::string& text : texts)
+            scans.emplace_back(text);  // after `texts` is complete: they point into it
+    }
+    TargetSubscripts(const TargetSubscripts&) = delete;
+    TargetSubscripts& operator=(const TargetSubscripts&) = delete;
+    std::vector<std::string> texts;
+    std::vector<SubscriptScan> scans;
+};
+
 // An analysed assignment.
 struct StatementCode {
     TargetKind Target = TargetKind::Result;
     std::int16_t TargetIndex = 0;
     std::int16_t SubscriptCount = 0;
-    std::string Subscript1;
-    std::string Subscript2;
+    std::shared_ptr<const TargetSubscripts> Subscripts;  // made with the statement
     std::string Expression;
     // A statement made for one immediate line has none.
     ExpressionCode ExpressionScan;
