@@ -13,7 +13,7 @@ class Compiler {
     // sum -> [+|-] term { (+|-) term }
     void Sum(const SumScan& scan) {
         if (scan.sum.empty) {
-            Emit(SumStep::Kind::Fail);
+            FailOperand();
             return;
         }
         for (std::size_t t = 0; t < scan.sum.count; ++t) {
@@ -41,7 +41,7 @@ class Compiler {
     template <typename Operand, typename OperatorOf>
     void Chain(const SumScan&, const SumScan::Operand& chain, Operand operand, OperatorOf op) {
         if (chain.empty) {
-            Emit(SumStep::Kind::Fail);
+            FailOperand();
             return;
         }
         for (std::size_t k = chain.first; k < chain.first + chain.count; ++k) {
@@ -61,7 +61,7 @@ class Compiler {
     // then a number, a named constant, a name, a bracket.
     void Primary(const PrimaryScan& primary) {
         if (primary.text.empty()) {
-            Emit(SumStep::Kind::Fail);
+            FailOperand();
             return;
         }
         const bool call = primary.scalarCall || primary.matrixCall || primary.mayCallUser;
@@ -97,6 +97,12 @@ class Compiler {
         return step;
     }
     void Emit(SumStep::Kind kind, char op = 0) { code_.steps.push_back(Step(kind, op)); }
+    // An empty operand fails where its value would be pushed; it counts as
+    // pushed, so that the operators after it keep the count of operands.
+    void FailOperand() {
+        Emit(SumStep::Kind::Fail);
+        Pushed();
+    }
     void Pushed() { depth_ = std::max(depth_, ++stack_); }
     void Apply(char op) {
         Emit(SumStep::Kind::Apply, op);

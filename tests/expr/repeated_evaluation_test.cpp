@@ -33,13 +33,27 @@ TEST(RepeatedEvaluation, GivesTheFirstOutcomeEveryTime) {
         "1/(p+1)", " 3 + 4j ", "2^3^2", "1E-3+1", "p=1+-2j", "Sqrt(Sin(x)^2+Cos(x)^2)", "A(1+1)",
         "Abs(-(p))", "Boolean(x .LT. 1 .And. p <> 0)", "1/0", "(1+2)*(3", "2*-x", "y + 1",
         "Sin(1,2)", "A(5)", "MatI1(A) + 0", "",
-        // numbers, names and brackets only: run as flat steps
+        // numbers, names and brackets only: steps of their own
         "-0*1", "0*-1", "+(-0*x)", "0-0", "-(x)", "((p+1)*(p-x))", "1E300*1E300", "x/(p-p)",
         "p + q*2", "-x^2+2^-1-x^0.5", "((((1))))+-p"};
     for (const char* text : texts) {
         const Evaluation first = Evaluate(text, scope);
         for (int round = 0; round < 3; ++round)
             ExpectSameOutcome(Evaluate(text, scope), first, text);
+    }
+}
+
+// An empty operand fails where the evaluation reaches it, however many
+// operators follow it.
+TEST(RepeatedEvaluation, EmptyOperandsFailWithoutAFault) {
+    InitVocabulary();
+    PlainScope scope;
+    scope.SetScalar("x", {2, 0});
+    for (const char* text : {"///.-/", "1//2", "2^", "x*/x-/x", "(1+)*2", "((x^))/x//x"}) {
+        const Evaluation result = Evaluate(text, scope);
+        EXPECT_FALSE(result.ok) << text;
+        EXPECT_FALSE(result.fault) << text;
+        EXPECT_FALSE(result.message.empty()) << text;
     }
 }
 
