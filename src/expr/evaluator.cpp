@@ -47,38 +47,39 @@ const Evaluator::ArgumentMemo::Entry* Evaluator::ArgumentMemo::Find(std::string_
     return nullptr;
 }
 
-bool Evaluator::EvalArgument(std::string_view text, Complex& value) {
-    text = Trim(text);
+// The memo's outcome for `key` when the primary being tried has one;
+// otherwise evaluate(result), recorded under `key`. `value` is set only on
+// success.
+template <typename Evaluate>
+bool Evaluator::Remembered(std::string_view key, Complex& value, Evaluate evaluate) {
     // Read before evaluating: a nested primary installs its own memo and
     // restores this one when it is done.
     ArgumentMemo* memo = memo_;
     if (memo != nullptr) {
-        if (const ArgumentMemo::Entry* known = memo->Find(text)) {
-            if (known->ok) value = known->value;
-            return known->ok;
-        }
-    }
-    std::string_view rest = text;
-    const bool ok = EvalSum(rest, value);
-    if (memo != nullptr) memo->entries.push_back({std::string(text), ok, ok ? value : Complex{}});
-    return ok;
-}
-
-bool Evaluator::EvalArgument(const SubscriptScan& subscript, Complex& value) {
-    ArgumentMemo* memo = memo_;
-    if (memo != nullptr) {
-        if (const ArgumentMemo::Entry* known = memo->Find(subscript.text)) {
+        if (const ArgumentMemo::Entry* known = memo->Find(key)) {
             if (known->ok) value = known->value;
             return known->ok;
         }
     }
     Complex result;
-    const bool ok = EvalScannedSum(subscript.scan.Get(), result);
+    const bool ok = evaluate(result);
     if (ok) value = result;
-    if (memo != nullptr) {
-        memo->entries.push_back({std::string(subscript.text), ok, ok ? result : Complex{}});
-    }
+    if (memo != nullptr) memo->entries.push_back({std::string(key), ok, ok ? result : Complex{}});
     return ok;
+}
+
+bool Evaluator::EvalArgument(std::string_view text, Complex& value) {
+    text = Trim(text);
+    return Remembered(text, value, [&](Complex& result) {
+        std::string_view rest = text;
+        return EvalSum(rest, result);
+    });
+}
+
+bool Evaluator::EvalArgument(const SubscriptScan& subscript, Complex& value) {
+    return Remembered(subscript.text, value, [&](Complex& result) {
+        return EvalScannedSum(subscript.scan.Get(), result);
+    });
 }
 
 bool Evaluator::Fail(std::string reason) {

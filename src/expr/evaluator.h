@@ -69,6 +69,8 @@ class Evaluator {
         };
     };
 
+    template <typename Evaluate>
+    bool Remembered(std::string_view key, Complex& value, Evaluate evaluate);
     bool Fail(std::string reason);
     // A text's scan (expression_scan.h) evaluated by its compiled steps
     // (sum_code.h); `value` is left in any state when they fail.

@@ -70,8 +70,13 @@ void ScanChain(std::string_view text, std::string_view ops, SumScan::Operand& ch
 
 }  // namespace
 
+std::string_view SubscriptText(std::string_view subscript) {
+    subscript = Trim(subscript);
+    return subscript.empty() ? "0" : subscript;
+}
+
 SubscriptScan::SubscriptScan(std::string_view subscript)
-    : text(Trim(subscript).empty() ? std::string_view("0") : Trim(subscript)), scan(text) {}
+    : text(SubscriptText(subscript)), scan(text) {}
 
 const SumScan& LazySumScan::Get() const {
     if (!scan_) scan_ = std::make_shared<const SumScan>(text_);

@@ -34,8 +34,10 @@ class LazySumScan {
     mutable std::shared_ptr<const SumScan> scan_;
 };
 
-// One subscript of an element Name(i) or Name(i, j) and its scan; an empty
-// subscript stands for "0".
+// A subscript's text as it is evaluated: trimmed, and "0" for an empty one.
+std::string_view SubscriptText(std::string_view subscript);
+
+// One subscript of an element Name(i) or Name(i, j) and its scan.
 struct SubscriptScan {
     explicit SubscriptScan(std::string_view subscript);
     std::string_view text;  // trimmed: what the evaluator's argument memo knows it by

@@ -125,12 +125,13 @@ void ClsCode::ACalcuWithMemoryStore(std::string_view expression, std::string_vie
         }
         StatementCode code{TargetKind::Memory,
                            index,
-                           static_cast<std::int16_t>(parsed.subscripts.size()),
                            std::make_shared<const TargetSubscripts>(parsed.subscripts),
                            std::string(Trim(expression)),
                            {}};
         Complex assigned;
-        ok = Assign(code, assigned);
+        Evaluator evaluator(*this);
+        ClearErrorText();
+        ok = Assign(evaluator, code, assigned);
         re = assigned.Re;
         im = assigned.Im;
     } catch (const RuntimeFault& fault) {

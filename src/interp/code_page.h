@@ -166,12 +166,14 @@ class ClsCode : public NameScope {
     // Execution (code_page_run.cpp).
     Flow RunLoop(std::int16_t& line, std::int16_t first, std::int16_t last);
     Flow Dispatch(std::int16_t& line);
-    bool RunFor(std::int16_t& line, bool isNext);
-    bool RunDo(std::int16_t& line, bool isLoop);
-    Flow RunBranch(std::int16_t& line, const std::vector<std::int16_t>& boundaries,
+    // A statement's parts evaluate with the evaluator of its Dispatch, which
+    // tells why a part failed.
+    bool RunFor(Evaluator& evaluator, std::int16_t& line, bool isNext);
+    bool RunDo(Evaluator& evaluator, std::int16_t& line, bool isLoop);
+    Flow RunBranch(Evaluator& evaluator, std::int16_t& line,
+                   const std::vector<std::int16_t>& boundaries,
                    const std::vector<ConditionCode>& conditions, std::int16_t branch);
-    bool Condition(const KeptScan<ConditionScan>& condition, bool& truth);
-    bool Assign(const StatementCode& code, Complex& assigned);
+    bool Assign(Evaluator& evaluator, const StatementCode& code, Complex& assigned);
     // Tells the view of the failed statement, as its statement or as the
     // call argument that failed in it.
     void ReportRunError(std::int16_t line);

@@ -201,8 +201,7 @@ bool ClsCode::AnalyseAssignment(std::string_view text, bool& isAssignment) {
     isAssignment = equals != std::string_view::npos;
     if (!isAssignment) return true;
     const std::string_view target = Trim(text.substr(0, equals));
-    StatementCode code{
-        TargetKind::Result, 0, 0, {}, std::string(Trim(text.substr(equals + 1))), {}};
+    StatementCode code{TargetKind::Result, 0, {}, std::string(Trim(text.substr(equals + 1))), {}};
     if (!SameName(target, pageName_, session_.caseSensitive())) {
         NameWithSubscripts parsed;
         if (!SplitNameAndSubscripts(target, parsed) || ReportReserved(parsed.name)) {
@@ -222,7 +221,6 @@ bool ClsCode::AnalyseAssignment(std::string_view text, bool& isAssignment) {
         } else {
             return Fail("代入先が不正");
         }
-        code.SubscriptCount = Count(parsed.subscripts.size());
         code.Subscripts = std::make_shared<const TargetSubscripts>(parsed.subscripts);
     }
     RequireRoomForOneMore(Count(statements_.size()));

@@ -201,9 +201,8 @@ bool ClsCode::EvalSubscript(Evaluator& evaluator, const SubscriptScan& subscript
 }
 
 bool ClsCode::EvalSubscript(Evaluator& evaluator, std::string_view text, std::int16_t& index) {
-    if (Trim(text).empty()) text = "0";
     Complex value;
-    if (!evaluator.EvalArgument(text, value)) return false;
+    if (!evaluator.EvalArgument(SubscriptText(text), value)) return false;
     index = RoundToInt16(value.Re);
     return true;
 }

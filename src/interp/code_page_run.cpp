@@ -141,19 +141,19 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
             break;
         }
         case kw::For:
-            ok = RunFor(line, false);
+            ok = RunFor(evaluator, line, false);
             break;
         case kw::Next:
-            ok = RunFor(line, true);
+            ok = RunFor(evaluator, line, true);
             break;
         case kw::ExitFor:
             line = fors_[index].NextLine;
             break;
         case kw::Do:
-            ok = RunDo(line, false);
+            ok = RunDo(evaluator, line, false);
             break;
         case kw::Loop:
-            ok = RunDo(line, true);
+            ok = RunDo(evaluator, line, true);
             break;
         case kw::ExitDo:
             line = dos_[index].LoopLine;
@@ -162,7 +162,7 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
         case kw::Else:
         case kw::ElseIf: {
             const IfBlock& block = ifs_[index];
-            const Flow flow = RunBranch(line, block.Boundaries, block.Conditions, link);
+            const Flow flow = RunBranch(evaluator, line, block.Boundaries, block.Conditions, link);
             if (flow == Flow::Fail) ok = false;
             if (flow == Flow::End) return flow;
             break;
@@ -170,7 +170,7 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
         case kw::Case:
         case kw::CaseElse: {
             const SelectBlock& block = selects_[index];
-            const Flow flow = RunBranch(line, block.Boundaries, block.Conditions, link);
+            const Flow flow = RunBranch(evaluator, line, block.Boundaries, block.Conditions, link);
             if (flow == Flow::Fail) ok = false;
             if (flow == Flow::End) return flow;
             break;
@@ -184,7 +184,7 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
             break;
         case kw::Assignment: {
             Complex assigned;
-            ok = Assign(statements_[index], assigned);
+            ok = Assign(evaluator, statements_[index], assigned);
             break;
         }
         default:
@@ -210,7 +210,7 @@ StatementPlace ClsCode::PlaceOf(std::int16_t line) const {
 
 // For: the counter lives in the block, so assignments to the loop variable
 // inside the body do not change the number of passes.
-bool ClsCode::RunFor(std::int16_t& line, bool isNext) {
+bool ClsCode::RunFor(Evaluator& evaluator, std::int16_t& line, bool isNext) {
     ForBlock& block = fors_[static_cast<std::size_t>(Line(line).CodeIndex)];
     if (isNext) {
         block.Counter = Checked(block.Counter + block.StepValue);
@@ -220,11 +220,9 @@ bool ClsCode::RunFor(std::int16_t& line, bool isNext) {
         if (again) line = block.ForLine;
         return true;
     }
-    Evaluator evaluator(*this);
     Complex start, end, step;
     if (!evaluator.EvalSum(block.Start->scan, start) || !evaluator.EvalSum(block.End->scan, end) ||
         !evaluator.EvalSum(block.Step->scan, step)) {
-        if (errorText_.empty()) SetErrorText(evaluator.failure());
         return false;
     }
     block.Counter = start.Re;
@@ -238,12 +236,12 @@ bool ClsCode::RunFor(std::int16_t& line, bool isNext) {
     return true;
 }
 
-bool ClsCode::RunDo(std::int16_t& line, bool isLoop) {
+bool ClsCode::RunDo(Evaluator& evaluator, std::int16_t& line, bool isLoop) {
     const DoBlock& block = dos_[static_cast<std::size_t>(Line(line).CodeIndex)];
     const StatementKind word = isLoop ? block.LoopWord : block.DoWord;
     const ConditionCode& condition = isLoop ? block.LoopCondition : block.DoCondition;
     bool truth = false;
-    if (word != kw::NoKeyword && !Condition(*condition, truth)) return false;
+    if (word != kw::NoKeyword && !evaluator.EvalCondition(condition->scan, truth)) return false;
     const bool whileHolds = word == kw::NoKeyword || (word == kw::While) == truth;
     if (!isLoop && !whileHolds) line = block.LoopLine;
     if (isLoop && whileHolds) line = Sub16(block.DoLine, 1);
@@ -252,13 +250,14 @@ bool ClsCode::RunDo(std::int16_t& line, bool isLoop) {
 
 // Runs branch `branch` when its condition holds and then leaves the block;
 // otherwise moves to the next boundary line so its condition is tried next.
-ClsCode::Flow ClsCode::RunBranch(std::int16_t& line, const std::vector<std::int16_t>& boundaries,
+ClsCode::Flow ClsCode::RunBranch(Evaluator& evaluator, std::int16_t& line,
+                                 const std::vector<std::int16_t>& boundaries,
                                  const std::vector<ConditionCode>& conditions,
                                  std::int16_t branch) {
     const auto k = static_cast<std::size_t>(branch);
     const ConditionCode& condition = conditions[k];
     bool taken = condition == nullptr;
-    if (!taken && !Condition(*condition, taken)) return Flow::Fail;
+    if (!taken && !evaluator.EvalCondition(condition->scan, taken)) return Flow::Fail;
     if (!taken) {
         line = Sub16(boundaries[k], 1);
         return Flow::Normal;
@@ -276,17 +275,8 @@ ClsCode::Flow ClsCode::RunBranch(std::int16_t& line, const std::vector<std::int1
     return Flow::Normal;
 }
 
-bool ClsCode::Condition(const KeptScan<ConditionScan>& condition, bool& truth) {
-    Evaluator evaluator(*this);
-    if (evaluator.EvalCondition(condition.scan, truth)) return true;
-    if (errorText_.empty()) SetErrorText(evaluator.failure());
-    return false;
-}
-
-bool ClsCode::Assign(const StatementCode& code, Complex& assigned) {
-    Evaluator evaluator(*this);
+bool ClsCode::Assign(Evaluator& evaluator, const StatementCode& code, Complex& assigned) {
     arrayResult_.reset();
-    ClearErrorText();
     std::string_view expression = code.Expression;
     const bool evaluated = code.ExpressionScan
                                ? evaluator.EvalSum(code.ExpressionScan->scan, assigned)
@@ -320,7 +310,7 @@ bool ClsCode::Assign(const StatementCode& code, Complex& assigned) {
     // A parameter bound to a whole variable (not to one element) passes the
     // result on to that variable.
     const bool wholeVariable = slot == nullptr || slot->Flat < 0;
-    if (arrayResult_ && code.SubscriptCount == 0 && wholeVariable &&
+    if (arrayResult_ && !code.HasSubscripts() && wholeVariable &&
         IsWholeMatrixCall(code.Expression, row)) {
         // The target takes the result's dimensions and values.
         const ComplexArray& array = *arrayResult_;
@@ -341,7 +331,7 @@ bool ClsCode::Assign(const StatementCode& code, Complex& assigned) {
     if (slot != nullptr && slot->Flat >= 0) {
         flat = slot->Flat;
         if (flat > rec->Ln) return false;  // the array shrank while bound
-    } else if (code.SubscriptCount > 0) {
+    } else if (code.HasSubscripts()) {
         rec = Element(evaluator, target, code.Subscripts->scans, flat);
         if (rec == nullptr) {
             if (errorText_.empty()) SetErrorText(evaluator.failure());

@@ -86,8 +86,8 @@ class Interpreter {
     // pages away from under the first.
     bool Busy() const { return busy_ || Running(); }
 
-    // True once every 1024 calls: how often evaluation and the run loop look
-    // at the stop request and let window events run.
+    // True once every 1024 calls: how often the run loop looks at the stop
+    // request and lets window events run.
     bool PollDue() { return (++pollCount_ & 1023u) == 0; }
 
     // The statement a run is at. It is noted at every statement and told to

@@ -106,11 +106,12 @@ struct TargetSubscripts {
 struct StatementCode {
     TargetKind Target = TargetKind::Result;
     std::int16_t TargetIndex = 0;
-    std::int16_t SubscriptCount = 0;
-    std::shared_ptr<const TargetSubscripts> Subscripts;  // made with the statement
+    std::shared_ptr<const TargetSubscripts> Subscripts;  // none for the page's result
     std::string Expression;
     // A statement made for one immediate line has none.
     ExpressionCode ExpressionScan;
+
+    bool HasSubscripts() const { return Subscripts && !Subscripts->scans.empty(); }
 };
 
 struct ForBlock {
