@@ -6,12 +6,18 @@
 
 namespace lapdesk {
 
+// A divisor of zero is found first. An infinite divisor or numerator part
+// makes its quotient infinite or NaN, or is the divisor itself, so checking
+// the divisor and the two quotients checks every step.
 Complex CplDiv(const Complex& a, const Complex& b) {
-    const double d = Checked(Checked(b.Re * b.Re) + Checked(b.Im * b.Im));
+    const double d = b.Re * b.Re + b.Im * b.Im;
     if (d == 0.0) RaiseFault(FaultCode::DivisionByZero);
-    const double re = Checked(Checked(a.Re * b.Re) + Checked(a.Im * b.Im));
-    const double im = Checked(Checked(b.Re * a.Im) - Checked(a.Re * b.Im));
-    return {Checked(re / d), Checked(im / d)};
+    const double re = a.Re * b.Re + a.Im * b.Im;
+    const double im = b.Re * a.Im - a.Re * b.Im;
+    const double qr = re / d;
+    const double qi = im / d;
+    Checked(d);
+    return {Checked(qr), Checked(qi)};
 }
 
 Complex CplPow(const Complex& a, const Complex& b) {
