@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <cstdio>
 #include <functional>
+#include <random>
 #include <string>
 
 namespace lapdesk {
@@ -33,6 +36,21 @@ TEST(NumberPictures, FormatExactly) {
                 {FormatTimeValue, 0.01953125, "   1.953E-02"}};
     for (const auto& row : rows)
         EXPECT_EQ(row.format(row.value), row.text) << row.value;
+}
+
+// Away from ties the digits are printf's, over the whole range of doubles.
+TEST(NumberPictures, DigitsArePrintfs) {
+    std::mt19937_64 random(20261126);
+    std::uniform_real_distribution<double> mantissa(1.0, 10.0);
+    std::uniform_int_distribution<int> exponent(-320, 307);
+    for (int k = 0; k < 20000; ++k) {
+        const double x = mantissa(random) * std::pow(10.0, exponent(random));
+        for (const int decimals : {3, 7}) {
+            char expected[400];
+            std::snprintf(expected, sizeof expected, "%.*E", decimals, x);
+            ASSERT_EQ(ScientificMagnitude(-x, decimals), expected) << x;
+        }
+    }
 }
 
 }  // namespace
