@@ -115,7 +115,7 @@ bool Evaluator::EvalCondition(const ConditionScan& scan, bool& truth) {
             Operand operand{};
             const std::string failureBefore = failure_;
             Complex value;
-            if (EvalScannedSum(token.operand->Get(), value)) {
+            if (EvalSum(token.operand->Get(), value)) {
                 operand.value = value;
             } else {
                 // A bracketed operand that is no expression is a condition.

@@ -24,8 +24,10 @@ class Evaluator {
     // Syntax faults return false (see failure()); arithmetic faults raise
     // RuntimeFault, which the caller's boundary traps.
     bool EvalSum(std::string_view& text, Complex& value);
-    // A whole text by the scan its caller keeps for it (a KeptScan), which
-    // is not in the scope's store.
+    // A text by its scan (expression_scan.h): one the caller keeps for it
+    // (a KeptScan), which is not in the scope's store, or a part of one.
+    // Evaluated by its compiled steps (sum_code.h); `value` is set only on
+    // success.
     bool EvalSum(const SumScan& scan, Complex& value);
 
     // A condition of dotted operators and their synonyms; truth in `truth`.
@@ -72,10 +74,9 @@ class Evaluator {
     template <typename Evaluate>
     bool Remembered(std::string_view key, Complex& value, Evaluate evaluate);
     bool Fail(std::string reason);
-    // A text's scan (expression_scan.h) evaluated by its compiled steps
-    // (sum_code.h); `value` is left in any state when they fail.
-    bool EvalScannedSum(const SumScan& scan, Complex& value);
     bool RunSumCode(const SumCode& code, Complex* stack, Complex& value);
+    bool ReadName(const PrimaryScan& primary, Complex& value);
+    bool ReadNameSlowly(const PrimaryScan& primary, Complex& value);
     bool EvalScannedPrimary(const PrimaryScan& scan, Complex& value);
     bool EvalScalarFunction(const FunctionCallScan& call, Complex& value);
     bool EvalMatrixFunction(const FunctionCallScan& call, Complex& value);

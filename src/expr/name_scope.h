@@ -39,11 +39,11 @@ class NameScope {
     // read without asking the scope, for as long as the names have not
     // changed since the scope filled the place in; false otherwise.
     bool ReadKnown(const Place& place, Complex& value) const {
-        if (place.values == nullptr || place.scope != this || namesGeneration_ == nullptr ||
-            place.generation != *namesGeneration_ || place.values->empty()) {
+        if (place.values == nullptr || place.scope != this ||
+            place.generation != *namesGeneration_) {
             return false;
         }
-        value = place.values->front();
+        value = place.values->front();  // a variable has at least one element
         return true;
     }
 
@@ -68,11 +68,17 @@ class NameScope {
     // The scans kept for the texts evaluated in this scope, again and again.
     virtual ScanCache& Scans() = 0;
 
-    // Called at every primary, so that a stop request can end the work of
-    // one long expression: every kPollInterval calls the scope may look at
-    // its stop request (StopPoint) and raise its own signal.
-    void PollStop() {
-        if (++polls_ % kPollInterval == 0) StopPoint();
+    // Counts primaries evaluated, so that a stop request can end the work of
+    // one long expression: every kPollInterval of them the scope may look
+    // at its stop request (StopPoint) and raise its own signal. A sum counts
+    // its primaries all at once, and stops as often as they would have one
+    // by one.
+    void PollStop(unsigned primaries = 1) {
+        polls_ += primaries;
+        while (polls_ >= kPollInterval) {
+            polls_ -= kPollInterval;
+            StopPoint();
+        }
     }
 
   protected:
@@ -83,8 +89,9 @@ class NameScope {
     void SetNamesGeneration(const std::uint64_t* generation) { namesGeneration_ = generation; }
 
   private:
+    static constexpr std::uint64_t kNoGeneration = 0;
     unsigned polls_ = 0;
-    const std::uint64_t* namesGeneration_ = nullptr;
+    const std::uint64_t* namesGeneration_ = &kNoGeneration;
 };
 
 }  // namespace lapdesk

@@ -1,6 +1,7 @@
 #include "expr/sum_code.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "expr/expression_scan.h"
 
@@ -21,7 +22,7 @@ class Compiler {
                 scan, scan.terms[t], [&](std::size_t f) { Factor(scan, f); },
                 [&](std::size_t f) { return scan.factors[f].op; });
             if (t == 0) {
-                Emit(SumStep::Kind::Sign, scan.terms[t].op);
+                Sign(scan.terms[t].op);
             } else {
                 Apply(scan.terms[t].op);
             }
@@ -68,35 +69,52 @@ class Compiler {
         if (!call && primary.literal) {
             SumStep step = Step(SumStep::Kind::Literal);
             step.literal = *primary.literal;
-            code_.steps.push_back(step);
-            Pushed();
+            Push(step);
+            ++code_.polls;
             return;
         }
         if (!call && !primary.mayBeConstant && primary.isName && primary.name.subscripts.empty()) {
             SumStep step = Step(SumStep::Kind::Name);
             step.primary = &primary;
-            code_.steps.push_back(step);
-            Pushed();
+            Push(step);
+            ++code_.polls;
             return;
         }
         if (!call && !primary.mayBeConstant && !primary.isName && primary.bracketed) {
-            Emit(SumStep::Kind::Poll);
+            ++code_.polls;
             Sum(primary.bracketed->Get());
             return;
         }
         SumStep step = Step(SumStep::Kind::Primary);
         step.primary = &primary;
-        code_.steps.push_back(step);
-        Pushed();
+        Push(step);
     }
 
-    static SumStep Step(SumStep::Kind kind, char op = 0) {
+    // A first term's sign: 0 + x or 0 - x. A number takes it at once;
+    // otherwise a plus marks the step that left the term on top, and a
+    // minus is a step of its own. After a failing step nothing runs.
+    void Sign(char op) {
+        SumStep& last = code_.steps.back();
+        if (last.kind == SumStep::Kind::Fail || last.kind == SumStep::Kind::FailBrackets) return;
+        if (last.kind == SumStep::Kind::Literal) {
+            Complex value;
+            ApplyOperator(op, value, last.literal);
+            last.literal = value;
+            return;
+        }
+        if (op == '+') {
+            last.plusZero = true;
+            return;
+        }
+        Emit(SumStep::Kind::Negate);
+    }
+
+    static SumStep Step(SumStep::Kind kind) {
         SumStep step;
         step.kind = kind;
-        step.op = op;
         return step;
     }
-    void Emit(SumStep::Kind kind, char op = 0) { code_.steps.push_back(Step(kind, op)); }
+    void Emit(SumStep::Kind kind) { code_.steps.push_back(Step(kind)); }
     // An empty operand fails where its value would be pushed; it counts as
     // pushed, so that the operators after it keep the count of operands.
     void FailOperand() {
@@ -104,9 +122,31 @@ class Compiler {
         Pushed();
     }
     void Pushed() { depth_ = std::max(depth_, ++stack_); }
+    void Push(const SumStep& step) {
+        code_.steps.push_back(step);
+        Pushed();
+    }
+    // A number or plain name just pushed as the right operand becomes the
+    // operator's own operand, read where the operator applies it.
     void Apply(char op) {
-        Emit(SumStep::Kind::Apply, op);
         --stack_;
+        SumStep& last = code_.steps.back();
+        if (!last.plusZero && last.kind == SumStep::Kind::Literal) {
+            last.kind = OperatorKind(op, SumStep::Kind::AddLiteral);
+            return;
+        }
+        if (!last.plusZero && last.kind == SumStep::Kind::Name) {
+            last.kind = OperatorKind(op, SumStep::Kind::AddName);
+            return;
+        }
+        Emit(OperatorKind(op, SumStep::Kind::Add));
+    }
+
+    // The operator's kind in the group of five that starts at `add`.
+    static SumStep::Kind OperatorKind(char op, SumStep::Kind add) {
+        const std::string_view operators = "+-*/^";
+        const auto offset = static_cast<std::uint8_t>(operators.find(op));
+        return static_cast<SumStep::Kind>(static_cast<std::uint8_t>(add) + offset);
     }
 
     SumCode code_;

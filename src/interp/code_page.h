@@ -121,8 +121,14 @@ class ClsCode : public NameScope {
     enum class Flow { Normal, End, Fail };  // End: the page finished early (End, Return)
 
     // Memory (code_page_memory.cpp).
-    const MemoryRec& Memory(std::int16_t i) const;
-    MemoryRec& Memory(std::int16_t i);
+    const MemoryRec& Memory(std::int16_t i) const {
+        if (i < 0 || i >= NumofMemory()) RaiseFault(FaultCode::SubscriptOutOfRange);
+        return memory_[static_cast<std::size_t>(i)];
+    }
+    MemoryRec& Memory(std::int16_t i) {
+        if (i < 0 || i >= NumofMemory()) RaiseFault(FaultCode::SubscriptOutOfRange);
+        return memory_[static_cast<std::size_t>(i)];
+    }
     std::int16_t AppendVariable(std::string_view name, std::int16_t typ, std::int16_t ni,
                                 std::int16_t nj);
     bool DeclareItem(std::string_view item);
@@ -165,11 +171,12 @@ class ClsCode : public NameScope {
 
     // Execution (code_page_run.cpp).
     Flow RunLoop(std::int16_t& line, std::int16_t first, std::int16_t last);
-    Flow Dispatch(std::int16_t& line);
+    Flow Dispatch(const CodeLine& stored, std::int16_t& line);
     // A statement's parts evaluate with the evaluator of its Dispatch, which
     // tells why a part failed.
-    bool RunFor(Evaluator& evaluator, std::int16_t& line, bool isNext);
-    bool RunDo(Evaluator& evaluator, std::int16_t& line, bool isLoop);
+    bool RunFor(Evaluator& evaluator, ForBlock& block, std::int16_t& line);
+    void NextTurn(ForBlock& block, std::int16_t& line);
+    bool RunDo(Evaluator& evaluator, const DoBlock& block, std::int16_t& line, bool isLoop);
     Flow RunBranch(Evaluator& evaluator, std::int16_t& line,
                    const std::vector<std::int16_t>& boundaries,
                    const std::vector<ConditionCode>& conditions, std::int16_t branch);

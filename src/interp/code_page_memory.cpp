@@ -22,16 +22,6 @@ bool ComputesFlatIndex(std::int32_t flat) {
 
 }  // namespace
 
-const MemoryRec& ClsCode::Memory(std::int16_t i) const {
-    if (i < 0 || i >= NumofMemory()) RaiseFault(FaultCode::SubscriptOutOfRange);
-    return memory_[static_cast<std::size_t>(i)];
-}
-
-MemoryRec& ClsCode::Memory(std::int16_t i) {
-    if (i < 0 || i >= NumofMemory()) RaiseFault(FaultCode::SubscriptOutOfRange);
-    return memory_[static_cast<std::size_t>(i)];
-}
-
 std::int16_t ClsCode::AppendVariable(std::string_view name, std::int16_t typ, std::int16_t ni,
                                      std::int16_t nj) {
     const std::int16_t ln = Sub16(Mul16(Add16(ni, 1), Add16(nj, 1)), 1);

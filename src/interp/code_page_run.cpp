@@ -105,6 +105,9 @@ bool ClsCode::APc02CodeExecute(double& re, double& im) {
 }
 
 ClsCode::Flow ClsCode::RunLoop(std::int16_t& line, std::int16_t first, std::int16_t last) {
+    // The lines stay as they are while the page runs, so the range is
+    // checked once.
+    if (last >= LineNum()) last = Sub16(LineNum(), 1);
     // A stop request can only have come while events ran (or before the
     // page started), so it is looked at then.
     for (line = first; line >= first && line <= last; line = Add16(line, 1)) {
@@ -114,20 +117,25 @@ ClsCode::Flow ClsCode::RunLoop(std::int16_t& line, std::int16_t first, std::int1
             LetEventsRun();
             if (session_.view().StopRequested()) return Flow::Fail;
         }
-        const Flow flow = Dispatch(line);
+        const Flow flow = Dispatch(lines_[static_cast<std::size_t>(line)], line);
         if (flow != Flow::Normal) return flow;
     }
     return Flow::Normal;
 }
 
-ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
+ClsCode::Flow ClsCode::Dispatch(const CodeLine& stored, std::int16_t& line) {
     // Read before anything runs, so that nothing below depends on the
     // line's record staying where it is.
-    const CodeLine& stored = Line(line);
     const StatementKind kind = stored.Kind;
     const std::int16_t link = stored.Link;
     const auto index = static_cast<std::size_t>(stored.CodeIndex);
     const KeptScan<SumScan>* value = stored.Value.get();  // Return and bare call
+    if (kind == kw::Next) {
+        // The loop's turn: it can fail only by a fault, so it needs no
+        // evaluator and leaves no reason.
+        NextTurn(fors_[index], line);
+        return Flow::Normal;
+    }
     ClearErrorText();
     bool ok = true;
     Evaluator evaluator(*this);
@@ -141,19 +149,16 @@ ClsCode::Flow ClsCode::Dispatch(std::int16_t& line) {
             break;
         }
         case kw::For:
-            ok = RunFor(evaluator, line, false);
-            break;
-        case kw::Next:
-            ok = RunFor(evaluator, line, true);
+            ok = RunFor(evaluator, fors_[index], line);
             break;
         case kw::ExitFor:
             line = fors_[index].NextLine;
             break;
         case kw::Do:
-            ok = RunDo(evaluator, line, false);
+            ok = RunDo(evaluator, dos_[index], line, false);
             break;
         case kw::Loop:
-            ok = RunDo(evaluator, line, true);
+            ok = RunDo(evaluator, dos_[index], line, true);
             break;
         case kw::ExitDo:
             line = dos_[index].LoopLine;
@@ -210,16 +215,7 @@ StatementPlace ClsCode::PlaceOf(std::int16_t line) const {
 
 // For: the counter lives in the block, so assignments to the loop variable
 // inside the body do not change the number of passes.
-bool ClsCode::RunFor(Evaluator& evaluator, std::int16_t& line, bool isNext) {
-    ForBlock& block = fors_[static_cast<std::size_t>(Line(line).CodeIndex)];
-    if (isNext) {
-        block.Counter = Checked(block.Counter + block.StepValue);
-        Memory(block.VariableIndex).Values[0] = {block.Counter, 0.0};
-        const bool again =
-            block.StepValue > 0 ? block.Counter <= block.EndValue : block.Counter >= block.EndValue;
-        if (again) line = block.ForLine;
-        return true;
-    }
+bool ClsCode::RunFor(Evaluator& evaluator, ForBlock& block, std::int16_t& line) {
     Complex start, end, step;
     if (!evaluator.EvalSum(block.Start->scan, start) || !evaluator.EvalSum(block.End->scan, end) ||
         !evaluator.EvalSum(block.Step->scan, step)) {
@@ -236,8 +232,15 @@ bool ClsCode::RunFor(Evaluator& evaluator, std::int16_t& line, bool isNext) {
     return true;
 }
 
-bool ClsCode::RunDo(Evaluator& evaluator, std::int16_t& line, bool isLoop) {
-    const DoBlock& block = dos_[static_cast<std::size_t>(Line(line).CodeIndex)];
+void ClsCode::NextTurn(ForBlock& block, std::int16_t& line) {
+    block.Counter = Checked(block.Counter + block.StepValue);
+    Memory(block.VariableIndex).Values[0] = {block.Counter, 0.0};
+    const bool again =
+        block.StepValue > 0 ? block.Counter <= block.EndValue : block.Counter >= block.EndValue;
+    if (again) line = block.ForLine;
+}
+
+bool ClsCode::RunDo(Evaluator& evaluator, const DoBlock& block, std::int16_t& line, bool isLoop) {
     const StatementKind word = isLoop ? block.LoopWord : block.DoWord;
     const ConditionCode& condition = isLoop ? block.LoopCondition : block.DoCondition;
     bool truth = false;
@@ -289,6 +292,12 @@ bool ClsCode::Assign(Evaluator& evaluator, const StatementCode& code, Complex& a
     }
     if (code.Target == TargetKind::Result) {
         valueArea_ = assigned;
+        return true;
+    }
+    if (code.Target == TargetKind::Memory && !code.HasSubscripts() && !arrayResult_) {
+        // The usual case, a plain variable of this page: its first element.
+        if (code.TargetIndex < 0 || code.TargetIndex >= NumofMemory()) return false;
+        memory_[static_cast<std::size_t>(code.TargetIndex)].Values[0] = assigned;
         return true;
     }
     Found target{NameKind::Memory, this, code.TargetIndex, -1, 0, 0, 0, {}};

@@ -34,9 +34,4 @@ std::int16_t RoundToInt16(double x) {
     return static_cast<std::int16_t>(rounded);
 }
 
-std::int16_t ToInt16(long long x) {
-    if (x < -32768 || x > 32767) RaiseFault(FaultCode::Overflow);
-    return static_cast<std::int16_t>(x);
-}
-
 }  // namespace lapdesk

@@ -38,7 +38,10 @@ inline double Checked(double x) {
 
 // 16-bit signed arithmetic for the interpreter's counts, indices and bounds:
 // a result outside -32768..32767 is the overflow fault, never a wrap.
-std::int16_t ToInt16(long long x);
+inline std::int16_t ToInt16(long long x) {
+    if (x < -32768 || x > 32767) RaiseFault(FaultCode::Overflow);
+    return static_cast<std::int16_t>(x);
+}
 inline std::int16_t Add16(std::int16_t a, std::int16_t b) {
     return ToInt16(static_cast<long long>(a) + b);
 }
