@@ -181,6 +181,7 @@ class ClsCode : public NameScope {
                    const std::vector<std::int16_t>& boundaries,
                    const std::vector<ConditionCode>& conditions, std::int16_t branch);
     bool Assign(Evaluator& evaluator, const StatementCode& code, Complex& assigned);
+    bool Store(Evaluator& evaluator, const StatementCode& code, const Complex& assigned);
     // Tells the view of the failed statement, as its statement or as the
     // call argument that failed in it.
     void ReportRunError(std::int16_t line);

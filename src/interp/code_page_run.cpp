@@ -117,7 +117,14 @@ ClsCode::Flow ClsCode::RunLoop(std::int16_t& line, std::int16_t first, std::int1
             LetEventsRun();
             if (session_.view().StopRequested()) return Flow::Fail;
         }
-        const Flow flow = Dispatch(lines_[static_cast<std::size_t>(line)], line);
+        const CodeLine& stored = lines_[static_cast<std::size_t>(line)];
+        if (stored.Kind == kw::Next) {
+            // The loop's turn: it can fail only by a fault, so it needs no
+            // evaluator and leaves no reason.
+            NextTurn(fors_[static_cast<std::size_t>(stored.CodeIndex)], line);
+            continue;
+        }
+        const Flow flow = Dispatch(stored, line);
         if (flow != Flow::Normal) return flow;
     }
     return Flow::Normal;
@@ -130,12 +137,6 @@ ClsCode::Flow ClsCode::Dispatch(const CodeLine& stored, std::int16_t& line) {
     const std::int16_t link = stored.Link;
     const auto index = static_cast<std::size_t>(stored.CodeIndex);
     const KeptScan<SumScan>* value = stored.Value.get();  // Return and bare call
-    if (kind == kw::Next) {
-        // The loop's turn: it can fail only by a fault, so it needs no
-        // evaluator and leaves no reason.
-        NextTurn(fors_[index], line);
-        return Flow::Normal;
-    }
     ClearErrorText();
     bool ok = true;
     Evaluator evaluator(*this);
@@ -300,6 +301,12 @@ bool ClsCode::Assign(Evaluator& evaluator, const StatementCode& code, Complex& a
         memory_[static_cast<std::size_t>(code.TargetIndex)].Values[0] = assigned;
         return true;
     }
+    return Store(evaluator, code, assigned);
+}
+
+// Every other target: a global, a parameter, an element, or a whole array
+// that takes a matrix function's result.
+bool ClsCode::Store(Evaluator& evaluator, const StatementCode& code, const Complex& assigned) {
     Found target{NameKind::Memory, this, code.TargetIndex, -1, 0, 0, 0, {}};
     if (code.Target == TargetKind::Global)
         target = {NameKind::Global, &session_.ImmediatePage(), code.TargetIndex, -1, 0, 0, 0, {}};
