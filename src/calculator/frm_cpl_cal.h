@@ -253,6 +253,10 @@ class FrmCplCal : public QMainWindow, public InterpreterView {
     bool stopRequested_ = false;
     bool stopPressed_ = false;  // the stop button ended the present run
     bool running_ = false;
+    // The buttons and menus show the run (UpdateEnabled during it). A run
+    // that ends before events are processed never shows it: no input can
+    // come meanwhile, and the window is not repainted twice for nothing.
+    bool runShown_ = false;
     bool programMode_ = false;
     bool arrayPanelOpen_ = false;
     bool selectionMode_ = false;

@@ -72,7 +72,7 @@ void FrmCplCal::BeginRun() {
     running_ = true;
     programText_->MarkErrorLine(-1);
     statusBar()->clearMessage();
-    UpdateEnabled();
+    eventPace_.Start();  // a run shorter than one pace processes no events
 }
 
 void FrmCplCal::EndRun() {
@@ -81,7 +81,7 @@ void FrmCplCal::EndRun() {
     ShowRunningPlace();  // and where
     listEntry_ = -1;
     running_ = false;
-    UpdateEnabled();
+    if (runShown_) UpdateEnabled();
     if (memory_->isVisible()) memory_->CommandReShowMemorys_Click();
 }
 
@@ -117,6 +117,7 @@ void FrmCplCal::UpdateEnabled() {
     menueWriteOverProgram_->setEnabled(programMode_);
     calcuFrame_->setEnabled(!arrayPanelOpen_ && !runWaits);
     memory_->setEnabled(!runWaits);
+    runShown_ = running_;
 }
 
 // The execution list belongs to the text it was made from.
@@ -255,6 +256,7 @@ void FrmCplCal::ProcessEvents() {
     ShowKai();
     ShowMeter();
     if (running_) ShowRunningPlace();
+    if (running_ && !runShown_) UpdateEnabled();  // input may come now
     QCoreApplication::processEvents();
 }
 

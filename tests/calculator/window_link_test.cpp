@@ -143,5 +143,33 @@ TEST_F(LinkTest, ProgressViewComesOnlyForADataCreationThatLasts) {
     EXPECT_TRUE(Find<QWidget>("PrgRningBox")->isHidden());
 }
 
+// The buttons show a run (the run button disabled) only once it lets events
+// run, one pace into it: a short run leaves the window as it was.
+TEST_F(LinkTest, ARunShowsItselfOnlyWhenItLetsEventsRun) {
+    struct Probe : TransformPartner {
+        FrmCplCal* window = nullptr;
+        QPushButton* run = nullptr;
+        std::chrono::milliseconds length{0};
+        bool enabledDuringRun = true;
+        void ASetLapOpValur() override {}
+        bool TesmorDataSet() override {
+            std::this_thread::sleep_for(length);
+            window->ProcessEvents();
+            enabledDuringRun = run->isEnabled();
+            return false;
+        }
+        void ZOrder() override {}
+    } probe;
+    probe.window = window.get();
+    probe.run = Find<QPushButton>("ButtonPrgRun");
+    window->TesmorCliant(&probe);
+    window->ButtonExeProgToMakeTesmorData_Click();
+    EXPECT_TRUE(probe.enabledDuringRun) << "a short run";
+    probe.length = std::chrono::milliseconds(60);  // past one pace
+    window->ButtonExeProgToMakeTesmorData_Click();
+    EXPECT_FALSE(probe.enabledDuringRun) << "a lasting run";
+    EXPECT_TRUE(probe.run->isEnabled()) << "after the run";
+}
+
 }  // namespace
 }  // namespace lapdesk::testing
