@@ -133,14 +133,17 @@ bool Evaluator::RunSumCode(const SumCode& code, Complex* stack, Complex& value) 
         &&failBrackets, &&done};
     // clang-format on
     constexpr std::size_t kDone = std::size(kCode) - 1;
-    static_assert(kDone == static_cast<std::size_t>(SumStep::Kind::FailBrackets) + 1);
+    using Kind = SumStep::Kind;
+    static_assert(kDone == static_cast<std::size_t>(Kind::FailBrackets) + 1);
     using Operator = Complex (*)(const Complex&, const Complex&);
 
     scope_.PollStop(code.polls);
     std::size_t top = 0;
-    Complex right;
     const SumStep* step = code.steps.data();
     const SumStep* const end = step + code.steps.size();
+    const auto codeOfStep = [&] {
+        return kCode[step == end ? kDone : static_cast<std::size_t>(step->kind)];
+    };
     const auto next = [&] {
         if (step->plusZero) {
             // 0 + x as the operator adds it; a value is finite, so the sum
@@ -148,7 +151,7 @@ bool Evaluator::RunSumCode(const SumCode& code, Complex* stack, Complex& value) 
             stack[top - 1] = {0.0 + stack[top - 1].Re, 0.0 + stack[top - 1].Im};
         }
         ++step;
-        return kCode[step == end ? kDone : static_cast<std::size_t>(step->kind)];
+        return codeOfStep();
     };
     const auto apply = [&](Operator op, const Complex& operand) {
         stack[top - 1] = op(stack[top - 1], operand);
@@ -158,8 +161,14 @@ bool Evaluator::RunSumCode(const SumCode& code, Complex* stack, Complex& value) 
         --top;
         return apply(op, stack[top]);
     };
+    // A name that cannot be read has its reason already: the sum fails.
+    const auto applyName = [&](Operator op) {
+        Complex right;
+        if (!ReadName(*step->primary, right)) return kCode[static_cast<std::size_t>(Kind::Fail)];
+        return apply(op, right);
+    };
 
-    goto* kCode[code.steps.empty() ? kDone : static_cast<std::size_t>(step->kind)];
+    goto* codeOfStep();
 add:
     goto* pop(CplAdd);
 subtract:
@@ -171,20 +180,15 @@ divide:
 power:
     goto* pop(CplPow);
 addName:
-    if (!ReadName(*step->primary, right)) return false;
-    goto* apply(CplAdd, right);
+    goto* applyName(CplAdd);
 subtractName:
-    if (!ReadName(*step->primary, right)) return false;
-    goto* apply(CplSub, right);
+    goto* applyName(CplSub);
 multiplyName:
-    if (!ReadName(*step->primary, right)) return false;
-    goto* apply(CplMul, right);
+    goto* applyName(CplMul);
 divideName:
-    if (!ReadName(*step->primary, right)) return false;
-    goto* apply(CplDiv, right);
+    goto* applyName(CplDiv);
 powerName:
-    if (!ReadName(*step->primary, right)) return false;
-    goto* apply(CplPow, right);
+    goto* applyName(CplPow);
 addLiteral:
     goto* apply(CplAdd, step->literal);
 subtractLiteral:

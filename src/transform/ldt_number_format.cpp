@@ -60,7 +60,7 @@ std::string Field(std::initializer_list<std::string_view> parts) {
 std::string ScientificMagnitude(double x, int decimals) {
     double m = std::fabs(x);
     if (m != 0.0) m = AwayFromZeroAtTie(m, DecimalExponent(m) - decimals);
-    char buffer[400];
+    char buffer[64];
     const auto result =
         std::to_chars(buffer, buffer + sizeof buffer, m, std::chars_format::scientific, decimals);
     std::string text(buffer, result.ptr);
