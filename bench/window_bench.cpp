@@ -3,9 +3,13 @@
 // window enters its run, shows it, and leaves it), against a view that shows
 // nothing; and the transform window's "実行" with the accurate method (data,
 // FFT, error band, singularity check, accurate inversion, plot) against the
-// same work done as the command-line tool does it. Runs on the offscreen
-// platform unless QT_QPA_PLATFORM says otherwise.
+// same work done as the command-line tool does it, apart and in turns.
+// Runs on the offscreen platform unless QT_QPA_PLATFORM says otherwise.
 #include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <vector>
 
 #include <QApplication>
 #include <QComboBox>
@@ -91,7 +95,7 @@ constexpr const char* kAccurateN = "4096";
 constexpr const char* kSeriesProgram =
     "s = 0\r\nFor k = 1 To 2000\r\ns = s + 1/((p+k)*(p+k))\r\nNext\r\nReturn s\r\nEnd\r\n";
 
-void BM_WindowAccurateRun(benchmark::State& state) {
+TesmorForm& AccurateForm() {
     static TesmorForm* form = [] {
         auto* made = new TesmorForm;
         made->show();
@@ -105,31 +109,81 @@ void BM_WindowAccurateRun(benchmark::State& state) {
         QApplication::processEvents();
         return made;
     }();
+    return *form;
+}
+
+bool RunInWindow() {
+    TesmorForm& form = AccurateForm();
+    form.Command2_Click();
+    return form.driver().HasResult();
+}
+
+// The same work as `lapdesk-cli invert --method dehoog` does it.
+class CliWork {
+  public:
+    CliWork() {
+        session_.SetProgramText(kSeriesProgram);
+        driver_.SetWordNumber(kAccurateN);
+    }
+    bool Run() {
+        const Outcome made = MakeDataFromProgram(driver_, session_);
+        const AccuracyReport report =
+            RunAccuracyChecksOnProgram(driver_, session_, AccuracyOptionsFor(true, true));
+        return made.ok && report.accurate.has_value();
+    }
+
+  private:
+    RecordingView view_;
+    Interpreter session_{view_};
+    TransformDriver driver_;
+};
+
+void BM_WindowAccurateRun(benchmark::State& state) {
     for (auto _ : state) {
-        form->Command2_Click();
-        if (!form->driver().HasResult()) {
+        if (!RunInWindow()) {
             state.SkipWithError("the run made no result");
             break;
         }
     }
 }
 
-// The same work as `lapdesk-cli invert --method dehoog` does it.
 void BM_CliAccurateRun(benchmark::State& state) {
-    RecordingView view;
-    Interpreter session(view);
-    session.SetProgramText(kSeriesProgram);
-    TransformDriver driver;
-    driver.SetWordNumber(kAccurateN);
+    CliWork cli;
     for (auto _ : state) {
-        const Outcome made = MakeDataFromProgram(driver, session);
-        const AccuracyReport report =
-            RunAccuracyChecksOnProgram(driver, session, AccuracyOptionsFor(true, true));
-        if (!made.ok || !report.accurate) {
+        if (!cli.Run()) {
             state.SkipWithError("the run made no result");
             break;
         }
     }
+}
+
+// The two in turns, one pair per iteration: this machine's speed drifts by
+// more than the difference between them over the seconds that separate two
+// benchmarks, but hardly within one pair. Reports the median ratio of the
+// pairs, with the lowest and highest.
+void BM_AccurateRunInTurns(benchmark::State& state) {
+    using Clock = std::chrono::steady_clock;
+    const auto seconds = [](Clock::time_point from) {
+        return std::chrono::duration<double>(Clock::now() - from).count();
+    };
+    CliWork cli;
+    std::vector<double> ratios;
+    for (auto _ : state) {
+        const Clock::time_point windowStart = Clock::now();
+        const bool shown = RunInWindow();
+        const double window = seconds(windowStart);
+        const Clock::time_point cliStart = Clock::now();
+        const bool done = cli.Run();
+        if (!shown || !done) {
+            state.SkipWithError("the run made no result");
+            return;
+        }
+        ratios.push_back(window / seconds(cliStart));
+    }
+    std::sort(ratios.begin(), ratios.end());
+    state.counters["ratio_min"] = ratios.front();
+    state.counters["ratio_median"] = ratios[ratios.size() / 2];
+    state.counters["ratio_max"] = ratios.back();
 }
 
 BENCHMARK(BM_WindowReturnProgram4096)->Unit(benchmark::kMillisecond);
@@ -138,6 +192,7 @@ BENCHMARK(BM_WindowLoopProgram1024)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_UnshownLoopProgram1024)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_WindowAccurateRun)->Unit(benchmark::kMillisecond)->Iterations(2);
 BENCHMARK(BM_CliAccurateRun)->Unit(benchmark::kMillisecond)->Iterations(2);
+BENCHMARK(BM_AccurateRunInTurns)->Unit(benchmark::kMillisecond)->Iterations(9)->Repetitions(1);
 
 const bench::Comparison kComparisons[] = {
     {"BM_WindowReturnProgram4096", "BM_UnshownReturnProgram4096"},

@@ -280,7 +280,7 @@ void ClsCode::CheckStop() {
 
 void ClsCode::LetEventsRun() {
     session_.ShowRunningStatement();
-    session_.view().ProcessEvents();
+    session_.LetViewEventsRun();
 }
 
 bool ClsCode::AStateMentDimension(std::span<const std::string_view> items) {

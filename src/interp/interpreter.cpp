@@ -9,6 +9,7 @@
 #include "expr/vocabulary.h"
 #include "interp/text_helpers.h"
 #include "values/fault.h"
+#include "values/vector_registers.h"
 
 namespace lapdesk {
 
@@ -116,6 +117,11 @@ void Interpreter::ShowRunningStatement() {
     }
 }
 
+void Interpreter::LetViewEventsRun() {
+    view_->ProcessEvents();
+    ClearUpperVectorRegisters();
+}
+
 bool Interpreter::EnterCall() {
     return ++callDepth_ <= kMaxCallDepth;
 }
@@ -131,7 +137,7 @@ bool Interpreter::RunProgram(double& re, double& im, bool eraseGlobals, bool run
 bool Interpreter::RunProgramOnce(double& re, double& im, bool eraseGlobals, bool run) {
     view_->HideHint();
     view_->SetKai("");
-    view_->ProcessEvents();
+    LetViewEventsRun();
     if (!programAnalysed_) {
         if (eraseGlobals) EraseAllMemories();
         view_->SetKai("Now Analising");

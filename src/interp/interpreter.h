@@ -99,6 +99,10 @@ class Interpreter {
         ++statementsRun_;
     }
     void ShowRunningStatement();
+    // The view's window events, then the vector registers cleared of what
+    // its code left there (ClearUpperVectorRegisters), before statements
+    // run on.
+    void LetViewEventsRun();
     // Statements begun since the session was made, calls included.
     std::int64_t StatementsRun() const { return statementsRun_; }
 
