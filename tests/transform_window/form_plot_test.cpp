@@ -155,6 +155,7 @@ TEST_F(PlotTest, TheResultFrameStaysInsideTheSmallestPlot) {
     RunProgram(QStringLiteral("Return 1/(p+1)\nEnd"));
     auto* frame = Find<QWidget>("Frame3");
     const QSize full = frame->size();
+    const QSize opened = form->size();
     form->resize(form->minimumSizeHint());
     QApplication::processEvents();
     ASSERT_TRUE(frame->isVisible());
@@ -165,12 +166,14 @@ TEST_F(PlotTest, TheResultFrameStaysInsideTheSmallestPlot) {
             frame->rect().contains(QRect(button->mapTo(frame, QPoint(0, 0)), button->size())))
             << name;
     }
-    form->resize(1180, 720);
+    form->resize(opened);
     QApplication::processEvents();
     EXPECT_EQ(frame->size(), full);
 }
 
 TEST_F(PlotTest, TheResultFrameIsDraggedWithTheLeftButton) {
+    form->resize(1180, 720);  // room to the frame's left, whatever the screen
+    QApplication::processEvents();
     Action("MenueResultMemo")->trigger();
     auto* frame = Find<QWidget>("Frame3");
     const QPoint start = frame->pos();

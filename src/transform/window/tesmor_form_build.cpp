@@ -136,7 +136,13 @@ void TesmorForm::Load() {
     haningCheck_->setChecked(driver_.HaningOn());
     scrn_->ClearScreen(driver_.GetConditions().T);
     ShowStateLabels();
-    resize(1180, 720);
+    // Tall enough for the side panel with the findings of a run: a shorter
+    // window squeezes every field of it. Never larger than the screen.
+    QSize size(1180, 860);
+    if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+        size = size.boundedTo(screen->availableGeometry().size());
+    }
+    resize(size);
     if (const QScreen* screen = QGuiApplication::primaryScreen()) {
         move(screen->availableGeometry().center() - rect().center());
     }
