@@ -98,6 +98,7 @@ constexpr const char* kSeriesProgram =
 TesmorForm& AccurateForm() {
     static TesmorForm* form = [] {
         auto* made = new TesmorForm;
+        made->resize(1180, 860);  // as it opens on a full HD screen (offscreen is smaller)
         made->show();
         made->findChild<QComboBox*>(QStringLiteral("MethodCombo"))->setCurrentIndex(1);
         const auto* sizes = made->findChild<QListWidget*>(QStringLiteral("WrdList"));
