@@ -138,14 +138,13 @@ void TesmorForm::Load() {
     ShowStateLabels();
     // Tall enough for the side panel with the findings of a run: a shorter
     // window squeezes every field of it. Never larger than the screen.
-    QSize size(1180, 860);
-    if (const QScreen* screen = QGuiApplication::primaryScreen()) {
-        size = size.boundedTo(screen->availableGeometry().size());
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (screen == nullptr) {
+        resize(1180, 860);
+        return;
     }
-    resize(size);
-    if (const QScreen* screen = QGuiApplication::primaryScreen()) {
-        move(screen->availableGeometry().center() - rect().center());
-    }
+    resize(QSize(1180, 860).boundedTo(screen->availableGeometry().size()));
+    move(screen->availableGeometry().center() - rect().center());
 }
 
 QWidget* TesmorForm::BuildPlotArea() {
