@@ -123,7 +123,7 @@ bool Evaluator::RunSumCode(const SumCode& code, Complex* stack, Complex& value) 
     // Each step ends with a jump of its own to the next step's code, which
     // the processor predicts far better than the one jump of a switch shared
     // by every step. Label addresses are a GCC and Clang extension. The
-    // table is in the order of SumStep::Kind, with the end of the steps last.
+    // table is in the order of SumStep::Kind.
     // clang-format off
     static void* const kCode[] = {
         &&add,        &&subtract,        &&multiply,        &&divide,        &&power,
@@ -132,18 +132,14 @@ bool Evaluator::RunSumCode(const SumCode& code, Complex* stack, Complex& value) 
         &&negate,     &&literal,         &&name,            &&primary,       &&fail,
         &&failBrackets, &&done};
     // clang-format on
-    constexpr std::size_t kDone = std::size(kCode) - 1;
     using Kind = SumStep::Kind;
-    static_assert(kDone == static_cast<std::size_t>(Kind::FailBrackets) + 1);
+    static_assert(std::size(kCode) == static_cast<std::size_t>(Kind::Done) + 1);
     using Operator = Complex (*)(const Complex&, const Complex&);
 
     scope_.PollStop(code.polls);
     std::size_t top = 0;
     const SumStep* step = code.steps.data();
-    const SumStep* const end = step + code.steps.size();
-    const auto codeOfStep = [&] {
-        return kCode[step == end ? kDone : static_cast<std::size_t>(step->kind)];
-    };
+    const auto codeOfStep = [&] { return kCode[static_cast<std::size_t>(step->kind)]; };
     const auto next = [&] {
         if (step->plusZero) {
             // 0 + x as the operator adds it; a value is finite, so the sum

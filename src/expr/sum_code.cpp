@@ -31,6 +31,7 @@ class Compiler {
     }
 
     SumCode Take() {
+        Emit(SumStep::Kind::Done);
         code_.stackDepth = depth_;
         return std::move(code_);
     }
@@ -131,12 +132,10 @@ class Compiler {
     void Apply(char op) {
         --stack_;
         SumStep& last = code_.steps.back();
-        if (!last.plusZero && last.kind == SumStep::Kind::Literal) {
-            last.kind = OperatorKind(op, SumStep::Kind::AddLiteral);
-            return;
-        }
-        if (!last.plusZero && last.kind == SumStep::Kind::Name) {
-            last.kind = OperatorKind(op, SumStep::Kind::AddName);
+        const bool literal = last.kind == SumStep::Kind::Literal;
+        if (!last.plusZero && (literal || last.kind == SumStep::Kind::Name)) {
+            last.kind =
+                OperatorKind(op, literal ? SumStep::Kind::AddLiteral : SumStep::Kind::AddName);
             return;
         }
         Emit(OperatorKind(op, SumStep::Kind::Add));

@@ -46,6 +46,7 @@ struct SumStep {
         Primary,       // evaluate the primary, push its value
         Fail,          // an empty operand: not an expression
         FailBrackets,  // the brackets do not balance past this point
+        Done,          // the end of the steps: the top is the sum
     };
     Kind kind = Kind::Negate;
     // The top becomes 0 + top after the step (a minus zero turns plus), as

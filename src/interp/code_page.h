@@ -8,6 +8,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "expr/name_scope.h"
@@ -126,8 +127,7 @@ class ClsCode : public NameScope {
         return memory_[static_cast<std::size_t>(i)];
     }
     MemoryRec& Memory(std::int16_t i) {
-        if (i < 0 || i >= NumofMemory()) RaiseFault(FaultCode::SubscriptOutOfRange);
-        return memory_[static_cast<std::size_t>(i)];
+        return const_cast<MemoryRec&>(std::as_const(*this).Memory(i));
     }
     std::int16_t AppendVariable(std::string_view name, std::int16_t typ, std::int16_t ni,
                                 std::int16_t nj);
